@@ -1,0 +1,49 @@
+# The Win32 side: the shell library, the program and the test programs that run
+# under Wine. Included from the top-level list when the target is Windows.
+
+enable_language(RC)
+
+# The program and its test programs share one folder, so the end-to-end tests find
+# tarvex2.exe beside themselves.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+find_package(ZLIB REQUIRED)
+find_path(MINIZIP_INCLUDE_DIR NAMES minizip/zip.h REQUIRED)
+find_library(MINIZIP_LIBRARY NAMES minizip REQUIRED)
+add_library(tarvex_minizip INTERFACE)
+target_include_directories(tarvex_minizip INTERFACE ${MINIZIP_INCLUDE_DIR})
+target_link_libraries(tarvex_minizip INTERFACE ${MINIZIP_LIBRARY} ZLIB::ZLIB)
+
+set(tarvex_windows_definitions UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601 WINVER=0x0601)
+set(tarvex_windows_libraries
+    gdiplus comctl32 comdlg32 shell32 shlwapi ole32 oleaut32 uuid winmm psapi advapi32 gdi32 user32 kernel32)
+
+# One static runtime in every program: nothing to ship beside the exe.
+add_link_options(-static -static-libgcc -static-libstdc++ -municode)
+
+add_library(tarvex_shell STATIC ${tarvex_shell_sources})
+target_compile_definitions(tarvex_shell PUBLIC ${tarvex_windows_definitions})
+target_link_libraries(tarvex_shell PUBLIC tarvex_core tarvex_minizip ${tarvex_windows_libraries})
+
+add_executable(tarvex2 WIN32 ${tarvex_entry_source} ${CMAKE_SOURCE_DIR}/resources/tarvex2.rc)
+target_link_libraries(tarvex2 PRIVATE tarvex_shell)
+set_source_files_properties(${CMAKE_SOURCE_DIR}/resources/tarvex2.rc PROPERTIES
+    OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/resources/tarvex2.manifest;${CMAKE_SOURCE_DIR}/resources/tarvex2.ico")
+
+# Files the program expects beside itself.
+if(EXISTS ${CMAKE_SOURCE_DIR}/resources/DefMenu.ini)
+    add_custom_command(TARGET tarvex2 POST_BUILD
+        COMMAND ${CMAKE_COMMAND} -E copy_if_different ${CMAKE_SOURCE_DIR}/resources/DefMenu.ini
+                $<TARGET_FILE_DIR:tarvex2>/DefMenu.ini)
+endif()
+
+find_package(GTest REQUIRED)
+include(GoogleTest)
+
+if(CMAKE_CROSSCOMPILING)
+    # ctest runs every Windows test program under Wine in a private prefix.
+    set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_SOURCE_DIR}/tools/wine-run.sh --prefix ${CMAKE_BINARY_DIR}/wineprefix)
+endif()
+
+add_subdirectory(tests/win)
+add_subdirectory(tests/e2e)
