@@ -19,7 +19,7 @@ set(tarvex_windows_libraries
     gdiplus comctl32 comdlg32 shell32 shlwapi ole32 oleaut32 uuid winmm psapi advapi32 gdi32 user32 kernel32)
 
 # One static runtime in every program: nothing to ship beside the exe.
-add_link_options(-static -static-libgcc -static-libstdc++ -municode)
+add_link_options(-static -static-libgcc -static-libstdc++)
 
 add_library(tarvex_shell STATIC ${tarvex_shell_sources})
 target_compile_definitions(tarvex_shell PUBLIC ${tarvex_windows_definitions})
@@ -27,6 +27,8 @@ target_link_libraries(tarvex_shell PUBLIC tarvex_core tarvex_minizip ${tarvex_wi
 
 add_executable(tarvex2 WIN32 ${tarvex_entry_source} ${CMAKE_SOURCE_DIR}/resources/tarvex2.rc)
 target_link_libraries(tarvex2 PRIVATE tarvex_shell)
+target_link_options(tarvex2 PRIVATE -municode)
+target_include_directories(tarvex2 PRIVATE ${CMAKE_SOURCE_DIR}/resources)
 set_source_files_properties(${CMAKE_SOURCE_DIR}/resources/tarvex2.rc PROPERTIES
     OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/resources/tarvex2.manifest;${CMAKE_SOURCE_DIR}/resources/tarvex2.ico")
 

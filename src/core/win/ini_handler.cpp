@@ -1,0 +1,132 @@
+#include "core/win/ini_handler.h"
+
+#include "core/message_box.h"
+#include "core/paths.h"
+#include "core/text.h"
+#include "win/handles.h"
+#include "win/text_convert.h"
+
+#include <windows.h>
+
+#include <iterator>
+#include <vector>
+
+namespace IniHandler {
+
+namespace {
+
+struct Target {
+    std::wstring section;
+    std::wstring file;
+    bool registered = false;
+};
+
+Target& CurrentTarget() {
+    static Target target;
+    return target;
+}
+
+constexpr DWORD kValueBufferSize = 255;
+constexpr DWORD kKeyListBufferSize = 16384;
+
+std::string CurrentDirectoryOfDrive(char drive) {
+    wchar_t buffer[MAX_PATH * 2];
+    if (drive == '\0') {
+        DWORD n = ::GetCurrentDirectoryW(static_cast<DWORD>(std::size(buffer)), buffer);
+        return Win::Narrow(std::wstring_view(buffer, n));
+    }
+    // "D:" names the current directory of drive D.
+    wchar_t spec[3] = {static_cast<wchar_t>(drive), L':', L'\0'};
+    DWORD n = ::GetFullPathNameW(spec, static_cast<DWORD>(std::size(buffer)), buffer, nullptr);
+    if (n == 0 || n >= std::size(buffer))
+        return std::string(1, drive) + ":\\";
+    return Win::Narrow(std::wstring_view(buffer, n));
+}
+
+} // namespace
+
+void SetTarget(std::string_view section, std::string_view file) {
+    Target& t = CurrentTarget();
+    t.section = Win::Widen(Text::Trim(section));
+    t.file = Win::Widen(Text::Trim(file));
+    t.registered = true;
+}
+
+void ForgetTargetForTests() { CurrentTarget() = Target{}; }
+
+std::string ReadValue(std::string_view key, std::string_view defaultValue) {
+    const Target& t = CurrentTarget();
+    if (!t.registered) {
+        MessageBoxes::MsgBox("[Section] and FileName Not Registered in Private.Ini!", "IniFile Logic Error",
+                             MessageBoxes::kCritical);
+        return {};
+    }
+    wchar_t buffer[kValueBufferSize];
+    std::wstring wideKey = Win::Widen(key);
+    std::wstring wideDefault = Win::Widen(defaultValue);
+    DWORD n = ::GetPrivateProfileStringW(t.section.c_str(), wideKey.c_str(), wideDefault.c_str(), buffer,
+                                         kValueBufferSize, t.file.c_str());
+    return Win::Narrow(std::wstring_view(buffer, n));
+}
+
+std::int16_t ReadSection(ProfileSection& table) {
+    const Target& t = CurrentTarget();
+    if (!t.registered)
+        return 0;
+    std::vector<wchar_t> names(kKeyListBufferSize, L'\0');
+    DWORD n = ::GetPrivateProfileStringW(t.section.c_str(), nullptr, L"", names.data(), kKeyListBufferSize,
+                                         t.file.c_str());
+    std::int16_t count = 0;
+    std::size_t pos = 0;
+    while (pos < n) {
+        std::wstring_view name(names.data() + pos);
+        if (name.empty())
+            break;
+        std::string key = Win::Narrow(name);
+        std::string value = ReadValue(key, "");
+        table.push_back({std::move(key), std::move(value)});
+        ++count;
+        pos += name.size() + 1;
+    }
+    return count;
+}
+
+ProfileSection ReadWholeSection(std::string_view section, std::string_view file) {
+    SetTarget(section, file);
+    ProfileSection table;
+    ReadSection(table);
+    return table;
+}
+
+bool CreateUnicodeProfile(std::string_view file) {
+    std::wstring path = Win::Widen(file);
+    Win::UniqueFileHandle h(
+        ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!h)
+        return ::GetLastError() == ERROR_FILE_EXISTS;
+    static const unsigned char bom[] = {0xFF, 0xFE};
+    DWORD written = 0;
+    return ::WriteFile(h.get(), bom, sizeof bom, &written, nullptr) && written == sizeof bom;
+}
+
+void WriteValue(std::string_view section, std::string_view file, std::string_view key, std::string_view value) {
+    CreateUnicodeProfile(file);
+    std::wstring wideSection = Win::Widen(section);
+    std::wstring wideKey = Win::Widen(key);
+    std::wstring wideValue = Win::Widen(value);
+    std::wstring wideFile = Win::Widen(file);
+    ::WritePrivateProfileStringW(wideSection.c_str(), wideKey.c_str(), wideValue.c_str(), wideFile.c_str());
+}
+
+void WriteAll(std::string_view file, const ProfileWrites& writes) {
+    for (const ProfileWrite& w : writes)
+        WriteValue(w.section, file, w.key, w.value);
+}
+
+std::string FolderOfPath(std::string_view path) {
+    std::wstring folder = Win::Widen(Paths::FolderOfPath(path, CurrentDirectoryOfDrive));
+    ::CharUpperBuffW(folder.data(), static_cast<DWORD>(folder.size()));
+    return Win::Narrow(folder);
+}
+
+} // namespace IniHandler

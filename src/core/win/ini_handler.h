@@ -1,0 +1,44 @@
+// Reading and writing profile (INI) files through the wide profile functions.
+// Reads use one current target (section and file) that the reader sets first;
+// every write names its own section and file.
+#pragma once
+
+#include "core/profile.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace IniHandler {
+
+void SetTarget(std::string_view section, std::string_view file);
+
+// The value of a key in the current section; a missing key gives the default, a
+// present but empty key gives "". At most 254 characters are returned.
+std::string ReadValue(std::string_view key, std::string_view defaultValue);
+
+// Fills the table with the current section's keys and values in file order and
+// returns how many; 0 with no target set.
+std::int16_t ReadSection(ProfileSection& table);
+
+// Writes one value. A file that does not exist yet is created as UTF-16LE with a
+// byte-order mark, so that any character survives.
+void WriteValue(std::string_view section, std::string_view file, std::string_view key, std::string_view value);
+
+// Applies a list of writes to one file, in order.
+void WriteAll(std::string_view file, const ProfileWrites& writes);
+
+// Reads a whole section of a file (sets the current target).
+ProfileSection ReadWholeSection(std::string_view section, std::string_view file);
+
+// The folder of a path, upper-cased, with a trailing backslash.
+std::string FolderOfPath(std::string_view path);
+
+// Creates an empty profile file holding only the UTF-16LE byte-order mark, unless
+// the file exists already. Returns false when it cannot be created.
+bool CreateUnicodeProfile(std::string_view file);
+
+// Forgets the current target, as before the first SetTarget. Only tests need this.
+void ForgetTargetForTests();
+
+} // namespace IniHandler
