@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# Builds every preset and runs every test tier: the native unit tests (ASan and
+# UBSan), then the shell and end-to-end tests of the 64-bit build under Wine. The
+# 32-bit release build is compiled with its tests. Exits non-zero on any failure.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+tools/bootstrap.sh
+
+# One X server for the whole run instead of one per Wine test.
+. tools/xvfb.sh
+ensure_display
+
+for preset in native win64 win32; do
+    echo "== build $preset"
+    cmake --preset "$preset" >/dev/null
+    cmake --build --preset "$preset" -j 2
+done
+
+tools/wine-run.sh --prefix build/win64/wineprefix --init
+
+passed=0
+failed=0
+status=0
+run_tier() {
+    local log
+    log=$(mktemp)
+    echo "== test $1"
+    ctest --preset "$1" "${@:2}" | tee "$log" || status=1
+    local line
+    line=$(grep -E 'tests passed, [0-9]+ tests? failed out of [0-9]+' "$log" | tail -n 1 || true)
+    if [ -n "$line" ]; then
+        local total bad
+        total=$(sed -E 's/.*out of ([0-9]+).*/\1/' <<<"$line")
+        bad=$(sed -E 's/.*tests passed, ([0-9]+) tests? failed.*/\1/' <<<"$line")
+        passed=$((passed + total - bad))
+        failed=$((failed + bad))
+    else
+        status=1
+    fi
+    rm -f "$log"
+}
+
+run_tier native -j 2
+run_tier win64
+
+echo "all tiers: $passed passed, $failed failed"
+exit $status
