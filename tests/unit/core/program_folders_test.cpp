@@ -1,0 +1,26 @@
+#include "core/program_folders.h"
+
+#include <gtest/gtest.h>
+
+TEST(ProgramFolders, TakesTheShellValuesEndingInOneBackslash) {
+    ProgramFolders folders = ResolveProgramFolders(
+        {"C:\\Users\\Ann\\Start Menu\\Programs", "C:\\ProgramData\\Programs\\", "C:\\Users\\Ann\\Desktop"},
+        "C:\\Windows", true);
+    EXPECT_EQ(folders.Programs, "C:\\Users\\Ann\\Start Menu\\Programs\\");
+    EXPECT_EQ(folders.CommonPrograms, "C:\\ProgramData\\Programs\\");
+    EXPECT_EQ(folders.Desktop, "C:\\Users\\Ann\\Desktop\\");
+}
+
+TEST(ProgramFolders, FallsBackToTheProfilesFoldersOnNT) {
+    ProgramFolders folders = ResolveProgramFolders({"", "", ""}, "C:\\WINNT", true);
+    EXPECT_EQ(folders.Programs, "C:\\WINNT\\profiles\\administrator\\Start menu\\Programs\\");
+    EXPECT_EQ(folders.CommonPrograms, "C:\\WINNT\\profiles\\All Users\\Start menu\\Programs\\");
+    EXPECT_EQ(folders.Desktop, "C:\\WINNT\\desktop\\");
+}
+
+TEST(ProgramFolders, FallsBackToTheOneStartMenuOnWindows9x) {
+    ProgramFolders folders = ResolveProgramFolders({"D:\\Menu", "", ""}, "C:\\WINDOWS\\", false);
+    EXPECT_EQ(folders.Programs, "D:\\Menu\\");
+    EXPECT_EQ(folders.CommonPrograms, "C:\\WINDOWS\\Start menu\\Programs\\");
+    EXPECT_EQ(folders.Desktop, "C:\\WINDOWS\\desktop\\");
+}

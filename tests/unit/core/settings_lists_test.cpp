@@ -1,0 +1,166 @@
+// The hotspot and user-task keys that follow NoOfHotSpots and NoOfUserTasks.
+#include "core/settings.h"
+#include "profile_file_fake.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+HotspotRec SampleHotSpot(int n) {
+    HotspotRec h;
+    h.x1 = static_cast<std::int16_t>(n);
+    h.x2 = static_cast<std::int16_t>(1000 + n);
+    h.y1 = static_cast<std::int16_t>(-n);
+    h.y2 = 768;
+    h.App = "App " + std::to_string(n);
+    h.GroupName = "Group";
+    h.Menutop = 10;
+    h.Menuleft = -20;
+    h.Menuname = "Menu " + std::to_string(n);
+    h.Menupath1 = "C:\\Folder " + std::to_string(n) + "\\";
+    h.Menupath2 = "*7";
+    h.MenuType = 2;
+    h.FileTypeMask = "*.exe;*.lnk";
+    h.OnMouse = true;
+    h.MouseButton = 11;
+    h.UseHotKey = -1;
+    h.Hotkey = 112;
+    h.ShiftHotKey = true;
+    h.Theme = "Blue";
+    h.Inherit = true;
+    h.SoundPath = "s.wav";
+    h.AppPath = "a.exe";
+    h.Type = 4;
+    h.StartPath = "C:\\";
+    h.AlwaysOpen = 1;
+    h.Horizontal = true;
+    h.ForceOnTop = true;
+    return h;
+}
+
+std::vector<HotspotRec> SampleHotSpots(int count) {
+    std::vector<HotspotRec> hotSpots;
+    for (int i = 0; i < count; ++i)
+        hotSpots.push_back(SampleHotSpot(i));
+    return hotSpots;
+}
+
+ProfileWrites WritesAfter(const ProfileWrites& writes, const std::string& key) {
+    auto at = std::find_if(writes.begin(), writes.end(), [&](const ProfileWrite& w) { return w.key == key; });
+    return at == writes.end() ? ProfileWrites() : ProfileWrites(at, writes.end());
+}
+
+} // namespace
+
+TEST(HotSpotKeys, FollowNoOfHotSpotsWithEveryFieldInRecordOrder) {
+    SettingsRec settings;
+    settings.HotSpots = {HotspotRec(), SampleHotSpot(1)};
+    ProfileWrites writes = WritesAfter(SaveSettings(settings, false), "NoOfHotSpots");
+    const std::vector<std::string> suffixes = {
+        "x1",          "x2",        "y1",        "y2",          "App",        "GroupName",    "Menutop",
+        "Menuleft",    "Menuname",  "Menupath1", "Menupath2",   "MenuType",   "FileTypeMask", "OnMouse",
+        "MouseButton", "UseHotKey", "Hotkey",    "ShiftHotKey", "Theme",      "Inherit",      "SoundPath",
+        "AppPath",     "Type",      "StartPath", "AlwaysOpen",  "Horizontal", "ForceOnTop"};
+    std::vector<std::string> expected = {"NoOfHotSpots=1"};
+    for (const char* index : {"0", "1"})
+        for (const std::string& suffix : suffixes)
+            expected.push_back("HotSpot" + std::string(index) + suffix);
+    std::vector<std::string> got;
+    for (const ProfileWrite& write : writes)
+        got.push_back(write.key == "NoOfHotSpots" ? write.key + "=" + write.value : write.key);
+    EXPECT_EQ(got, expected);
+    EXPECT_EQ(WrittenValue(writes, "HotSpot1y1"), "-1");
+    EXPECT_EQ(WrittenValue(writes, "HotSpot1OnMouse"), "True");
+    EXPECT_EQ(WrittenValue(writes, "HotSpot0OnMouse"), "False");
+    EXPECT_EQ(WrittenValue(writes, "HotSpot1UseHotKey"), "-1");
+    EXPECT_EQ(WrittenValue(writes, "HotSpot1Type"), "4");
+    EXPECT_EQ(WrittenValue(writes, "HotSpot1Menupath1"), "C:\\Folder 1\\");
+}
+
+TEST(HotSpotKeys, RoundTripThroughTheFile) {
+    SettingsRec saved;
+    saved.HotSpots = SampleHotSpots(4);
+    SettingsRec loaded;
+    LoadSettings(SectionOf(SaveSettings(saved, false)), false, loaded);
+    EXPECT_EQ(loaded.HotSpots, saved.HotSpots);
+}
+
+TEST(HotSpotKeys, ElevenHotSpotsLoseOneBecauseIndexTenLandsOnZero) {
+    SettingsRec saved;
+    saved.HotSpots = SampleHotSpots(11);
+    SettingsRec loaded;
+    LoadSettings(SectionOf(SaveSettings(saved, false)), false, loaded);
+    std::vector<HotspotRec> expected = SampleHotSpots(10);
+    expected[0] = SampleHotSpot(10);
+    EXPECT_EQ(loaded.HotSpots, expected);
+}
+
+TEST(HotSpotKeys, ReadTheIndexFromTheEighthCharacterAndTheFieldFromTheRest) {
+    SettingsRec settings;
+    LoadSettings({{"NoOfHotSpots", "2"},
+                  {"HOTSPOT2MENUPATH1", "C:\\Tools"},
+                  {"hotspot0x2", "640"},
+                  {"HotSpot1Type", "3"},
+                  {"HotSpot1Type", "1"},
+                  {"HotSpot1Typo", "2"},
+                  {"HotSpotXApp", "Notepad"},
+                  {"HotSpot", "x"},
+                  {"HotSpot5App", "Beyond the count"},
+                  {"HotSpot0Type", "256"}},
+                 false, settings);
+    std::vector<HotspotRec> expected(3);
+    expected[2].Menupath1 = "C:\\Tools";
+    expected[0].x2 = 640;
+    expected[1].Type = 3;
+    EXPECT_EQ(settings.HotSpots, expected);
+}
+
+TEST(HotSpotKeys, CountSaysHowManyRecordsThereAre) {
+    SettingsRec settings;
+    LoadSettings({{"HotSpot0App", "Desktop"}}, false, settings);
+    ASSERT_EQ(settings.HotSpots.size(), 1u);
+    EXPECT_EQ(settings.HotSpots[0].App, "Desktop");
+    LoadSettings({{"NoOfHotSpots", "-1"}, {"HotSpot0App", "Desktop"}}, false, settings);
+    EXPECT_TRUE(settings.HotSpots.empty());
+    LoadSettings({{"NoOfHotSpots", "30000"}}, false, settings);
+    EXPECT_EQ(settings.HotSpots.size(), 10u);
+}
+
+TEST(UserTaskKeys, FollowNoOfUserTasksTaskByTask) {
+    SettingsRec settings;
+    settings.UserTasks = {UserTaskRec{"Mail", "C:\\mail.exe", "C:\\mail.ico"}, UserTaskRec()};
+    ProfileWrites writes = WritesAfter(SaveSettings(settings, false), "NoOfUserTasks");
+    ASSERT_GE(writes.size(), 8u);
+    std::vector<std::string> got;
+    for (std::size_t i = 0; i < 8; ++i)
+        got.push_back(writes[i].key + "=" + writes[i].value);
+    EXPECT_EQ(got, (std::vector<std::string>{"NoOfUserTasks=2", "TaskName0=Mail", "TaskExec0=C:\\mail.exe",
+                                             "TaskIcon0=C:\\mail.ico", "TaskName1=NewItem",
+                                             "TaskExec1=", "TaskIcon1=", "BrowserIconType=0"}));
+}
+
+TEST(UserTaskKeys, RoundTripAndKeepTenAtMost) {
+    SettingsRec saved;
+    for (int i = 0; i < 11; ++i)
+        saved.UserTasks.push_back({"Task " + std::to_string(i), "t" + std::to_string(i) + ".exe", ""});
+    SettingsRec loaded;
+    LoadSettings(SectionOf(SaveSettings(saved, false)), false, loaded);
+    std::vector<UserTaskRec> expected(saved.UserTasks.begin(), saved.UserTasks.begin() + 10);
+    expected[0] = saved.UserTasks[10];
+    EXPECT_EQ(loaded.UserTasks, expected);
+}
+
+TEST(UserTaskKeys, ReadTheIndexFromTheLastCharacter) {
+    SettingsRec settings;
+    LoadSettings({{"taskexec1", "b.exe"},
+                  {"TaskName0", "First"},
+                  {"TaskName0", "Second"},
+                  {"TaskIcon", "none.ico"},
+                  {"TaskName3", "Beyond the count"},
+                  {"NoOfUserTasks", "2"}},
+                 false, settings);
+    EXPECT_EQ(settings.UserTasks, (std::vector<UserTaskRec>{{"First", "", ""}, {"NewItem", "b.exe", ""}}));
+}
