@@ -1,0 +1,26 @@
+// The lines of the menu frame and their colours.
+#pragma once
+
+#include "menuwindow/geometry.h"
+#include "menuwindow/menu_look.h"
+#include "menuwindow/menu_shape.h"
+
+#include <vector>
+
+namespace MenuWindow {
+
+// One line round the window: its top and left sides in the light colour, its bottom and
+// right sides in the dark one (both the same for a flat line).
+struct FrameLine {
+    Rect outer;
+    int thickness = 0;
+    Colour light = 0;
+    Colour dark = 0;
+    bool operator==(const FrameLine&) const = default;
+};
+
+// The outer line in MenuFrameColor, or MenuFrameColor (light) and MenuFrameColor2 (dark)
+// with Menu3DFrame; the inner one in MenuFrameColor3 and MenuFrameColor4.
+std::vector<FrameLine> FrameLines(const MenuLook& look, const MenuShape& shape, Size window, int lineThickness);
+
+} // namespace MenuWindow

@@ -1,0 +1,192 @@
+#include "menuwindow/gradient.h"
+
+#include "print_helpers.h"
+
+#include <gtest/gtest.h>
+
+using namespace MenuWindow;
+
+namespace {
+
+// The colour a pixel ends up with when the bands are filled in order.
+Colour ColourAt(const std::vector<ColourBand>& bands, Point pixel) {
+    Colour colour = -1;
+    for (const ColourBand& band : bands) {
+        if (band.rect.Contains(pixel))
+            colour = band.colour;
+    }
+    return colour;
+}
+
+int Red(Colour c) {
+    return c & 0xFF;
+}
+
+} // namespace
+
+TEST(GradientColours, EqualColoursRiseByOneOverTheBands) {
+    std::vector<Colour> colours = GradientColours({0x404040, 0x404040, 0, false});
+    ASSERT_EQ(colours.size(), 63u);
+    // 1/63 per band: still 64 at band 31 (31/63 < 0.5), 65 from band 32 on.
+    EXPECT_EQ(colours[0], 0x404040);
+    EXPECT_EQ(colours[31], 0x404040);
+    EXPECT_EQ(colours[32], 0x414141);
+    EXPECT_EQ(colours[62], 0x414141);
+}
+
+TEST(GradientColours, RisingPartStepsByTheDifferencePlusOneOver63) {
+    // Red 0 -> 255: step 256/63. Green and blue 0 -> 0 still rise by 1/63 per band.
+    std::vector<Colour> colours = GradientColours({0x000000, 0x0000FF, 0, false});
+    EXPECT_EQ(colours[0], 0x000000);
+    EXPECT_EQ(colours[1], 0x000004);  // 4.06
+    EXPECT_EQ(colours[31], 0x00007E); // 125.97
+    EXPECT_EQ(colours[62], 0x0101FC); // 251.94; green and blue 62/63
+}
+
+TEST(GradientColours, FallingPartStepsDownward) {
+    // Red 255 -> 0: step (0 - 255 + 1) / 63 = -254/63.
+    std::vector<Colour> colours = GradientColours({0x0000FF, 0x000000, 0, false});
+    EXPECT_EQ(Red(colours[0]), 255);
+    EXPECT_EQ(Red(colours[1]), 251); // 250.97
+    EXPECT_EQ(Red(colours[62]), 5);  // 5.03
+}
+
+TEST(GradientColours, PartsAreSplitByTheirPlaceInTheColourValue) {
+    // Blue 0x10 -> 0x50 only: red and green rise by 1 over the bands, blue by about 64.
+    std::vector<Colour> colours = GradientColours({0x100000, 0x500000, 0, false});
+    EXPECT_EQ(colours[0], 0x100000);
+    EXPECT_EQ(colours[62], 0x500101); // 16 + 62 * 65/63 = 79.97
+}
+
+TEST(GradientColours, PartsAreClampedTo255) {
+    // White to white would reach 255 + 62/63.
+    std::vector<Colour> colours = GradientColours({0xFFFFFF, 0xFFFFFF, 0, false});
+    for (Colour c : colours)
+        EXPECT_EQ(c, 0xFFFFFF);
+}
+
+TEST(GradientColours, PartsAreClampedAt0) {
+    // Wrapped black to black turns at once and runs below 0.
+    std::vector<Colour> colours = GradientColours({0x000000, 0x000000, 0, true});
+    for (Colour c : colours)
+        EXPECT_EQ(c, 0);
+}
+
+TEST(GradientColours, WrapReachesTheEndAboutHalfwayAndComesBack) {
+    // Red 0 -> 255 doubled: 512/63 per band. Band 32 reaches 260 (shown as 255) and turns.
+    std::vector<Colour> colours = GradientColours({0x000000, 0x0000FF, 0, true});
+    EXPECT_EQ(Red(colours[0]), 0);
+    EXPECT_EQ(Red(colours[1]), 8);
+    EXPECT_EQ(Red(colours[31]), 252);
+    EXPECT_EQ(Red(colours[32]), 255);
+    EXPECT_EQ(Red(colours[33]), 252);
+    EXPECT_EQ(Red(colours[62]), 16);
+    for (int band = 33; band < 63; ++band)
+        EXPECT_LT(Red(colours[band]), Red(colours[band - 1])) << band;
+}
+
+TEST(GradientColours, WrapTurnsWhenTheDoubledValuesMeet) {
+    // Red 0 -> 1 doubled: 4/63 per band. Doubled and rounded, 2v reaches 2 at v = 0.76
+    // (band 12); the bands from 8 (v >= 0.5) to 16 show red 1.
+    std::vector<Colour> colours = GradientColours({0x000000, 0x000001, 0, true});
+    EXPECT_EQ(Red(colours[7]), 0);
+    EXPECT_EQ(Red(colours[8]), 1);
+    EXPECT_EQ(Red(colours[12]), 1);
+    EXPECT_EQ(Red(colours[16]), 1);
+    EXPECT_EQ(Red(colours[17]), 0);
+}
+
+TEST(GradientColours, WrapTurnsAFallingPartBackUp) {
+    std::vector<Colour> colours = GradientColours({0x0000FF, 0x000000, 0, true});
+    int lowest = 0;
+    for (int band = 1; band < 63; ++band) {
+        if (Red(colours[band]) < Red(colours[lowest]))
+            lowest = band;
+    }
+    EXPECT_EQ(Red(colours[lowest]), 0);
+    EXPECT_NEAR(lowest, 31, 1);
+    EXPECT_GT(Red(colours[62]), 200);
+}
+
+TEST(GradientBands, LeftToRightBandsAreUprightStripsAcrossTheWidth) {
+    std::vector<ColourBand> bands = GradientBands({126, 10}, {0x000000, 0x0000FF, kGradientLeftToRight, false});
+    ASSERT_EQ(bands.size(), 63u);
+    std::vector<Colour> colours = GradientColours({0x000000, 0x0000FF, kGradientLeftToRight, false});
+    for (int i = 0; i < 63; ++i) {
+        EXPECT_EQ(bands[i].rect, (Rect{2 * i, 0, 2 * i + 2, 10}));
+        EXPECT_EQ(bands[i].colour, colours[i]);
+    }
+}
+
+TEST(GradientBands, TopToBottomBandsAreLyingStripsDownTheHeight) {
+    std::vector<ColourBand> bands = GradientBands({40, 189}, {0x000000, 0xFFFFFF, kGradientTopToBottom, false});
+    ASSERT_EQ(bands.size(), 63u);
+    EXPECT_EQ(bands[0].rect, (Rect{0, 0, 40, 3}));
+    EXPECT_EQ(bands[62].rect, (Rect{0, 186, 40, 189}));
+}
+
+TEST(GradientBands, StraightBandsCoverTheSurfaceExactlyWhenItIsNotAMultipleOf63) {
+    std::vector<ColourBand> bands = GradientBands({100, 7}, {0x000000, 0xFFFFFF, 0, false});
+    ASSERT_EQ(bands.size(), 63u);
+    int x = 0;
+    for (const ColourBand& band : bands) {
+        EXPECT_EQ(band.rect.left, x);
+        EXPECT_TRUE(band.rect.Width() == 1 || band.rect.Width() == 2) << band.rect.Width();
+        EXPECT_EQ(band.rect.top, 0);
+        EXPECT_EQ(band.rect.bottom, 7);
+        x = band.rect.right;
+    }
+    EXPECT_EQ(x, 100);
+}
+
+TEST(GradientBands, SurfacesNarrowerThan63PixelsKeepOnePixelBands) {
+    GradientSpec spec{0x000000, 0x0000FF, kGradientTopToBottom, false};
+    std::vector<ColourBand> bands = GradientBands({150, 22}, spec);
+    ASSERT_EQ(bands.size(), 22u);
+    int y = 0;
+    for (const ColourBand& band : bands) {
+        EXPECT_EQ(band.rect.top, y);
+        EXPECT_EQ(band.rect.Height(), 1);
+        y = band.rect.bottom;
+    }
+    EXPECT_EQ(y, 22);
+    // The last row always shows the last colour.
+    EXPECT_EQ(bands.back().colour, GradientColours(spec)[62]);
+}
+
+TEST(GradientBands, DiagonalRunsFromTheTopLeftToTheBottomRightCorner) {
+    GradientSpec spec{0x000000, 0x0000FF, 2, false};
+    std::vector<Colour> colours = GradientColours(spec);
+    std::vector<ColourBand> bands = GradientBands({126, 63}, spec);
+    ASSERT_EQ(bands.size(), 63u);
+    for (int i = 0; i < 63; ++i)
+        EXPECT_EQ(bands[i].rect, (Rect{2 * i, i, 126, 63})) << i;
+    EXPECT_EQ(ColourAt(bands, {0, 0}), colours[0]);
+    EXPECT_EQ(ColourAt(bands, {125, 62}), colours[62]);
+    // Each band shows as an L-shaped strip: a pixel takes the band of its nearer edge.
+    EXPECT_EQ(ColourAt(bands, {64, 10}), colours[10]);
+    EXPECT_EQ(ColourAt(bands, {10, 40}), colours[5]);
+    EXPECT_EQ(ColourAt(bands, {125, 0}), colours[0]);
+}
+
+TEST(GradientBands, EveryOtherTypeIsDiagonal) {
+    std::vector<ColourBand> seven = GradientBands({126, 63}, {0, 0xFF, 7, false});
+    std::vector<ColourBand> negative = GradientBands({126, 63}, {0, 0xFF, -1, false});
+    std::vector<ColourBand> two = GradientBands({126, 63}, {0, 0xFF, 2, false});
+    EXPECT_EQ(seven, two);
+    EXPECT_EQ(negative, two);
+}
+
+TEST(GradientBands, DiagonalCoversEveryPixel) {
+    std::vector<ColourBand> bands = GradientBands({30, 20}, {0, 0xFF, 2, false});
+    for (int y = 0; y < 20; ++y) {
+        for (int x = 0; x < 30; ++x)
+            EXPECT_NE(ColourAt(bands, {x, y}), -1) << x << "," << y;
+    }
+}
+
+TEST(GradientBands, EmptySurfaceHasNoBands) {
+    EXPECT_TRUE(GradientBands({0, 20}, {}).empty());
+    EXPECT_TRUE(GradientBands({20, 0}, {}).empty());
+    EXPECT_TRUE(GradientBands({-5, 20}, {}).empty());
+}

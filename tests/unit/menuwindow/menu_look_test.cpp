@@ -1,0 +1,365 @@
+#include "menuwindow/menu_look.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <string>
+
+using namespace MenuWindow;
+
+namespace {
+
+// A value that differs from the given one.
+std::int16_t Changed(std::int16_t v) {
+    return static_cast<std::int16_t>(v + 7);
+}
+std::int32_t Changed(std::int32_t v) {
+    return v ^ 0x123456;
+}
+bool Changed(bool v) {
+    return !v;
+}
+std::string Changed(const std::string& v) {
+    return v + "x";
+}
+
+MenuLook DefaultLook() {
+    return LookFromSettings(SettingsRec{});
+}
+
+// Changing one setting changes the same-named field of the look and nothing else.
+template <class T>
+void ExpectCopiedAlone(T SettingsRec::*from, T MenuLook::*to, const char* name) {
+    SettingsRec settings;
+    T value = Changed(settings.*from);
+    settings.*from = value;
+    MenuLook expected = DefaultLook();
+    expected.*to = value;
+    EXPECT_EQ(LookFromSettings(settings), expected) << name;
+}
+
+#define EXPECT_COPIED(field) ExpectCopiedAlone(&SettingsRec::field, &MenuLook::field, #field)
+
+} // namespace
+
+TEST(LookFromSettings, CopiesEveryPaintingSettingIntoItsOwnField) {
+    EXPECT_COPIED(TitlePosition);
+    EXPECT_COPIED(TitleVSize);
+    EXPECT_COPIED(TitleFont);
+    EXPECT_COPIED(TitleFontSize);
+    EXPECT_COPIED(TitleFontColor);
+    EXPECT_COPIED(TitleFontBold);
+    EXPECT_COPIED(TitleFontItalic);
+    EXPECT_COPIED(TitleAlignment);
+    EXPECT_COPIED(TitleTextType);
+    EXPECT_COPIED(TitleColor);
+    EXPECT_COPIED(TitleColor2);
+    EXPECT_COPIED(TitleGradient);
+    EXPECT_COPIED(TitleGradientType);
+    EXPECT_COPIED(TitleWrapGradient);
+    EXPECT_COPIED(TitleBitmap);
+    EXPECT_COPIED(TitleTileBitmap);
+    EXPECT_COPIED(TitleFlat);
+    EXPECT_COPIED(Title3DColor1);
+    EXPECT_COPIED(Title3DColor2);
+    EXPECT_COPIED(TitleOverlap);
+    EXPECT_COPIED(TitleShowInactive);
+    EXPECT_COPIED(TitleInactiveColor);
+    EXPECT_COPIED(TitleInactiveColor2);
+    EXPECT_COPIED(TitleInactiveGradient);
+    EXPECT_COPIED(TitleInactiveGradientType);
+    EXPECT_COPIED(TitleInactiveWrapGradient);
+    EXPECT_COPIED(TitleInactiveBitmap);
+    EXPECT_COPIED(TitleInactiveTileBitmap);
+    EXPECT_COPIED(TitleInactiveFontColor);
+    EXPECT_COPIED(TitleInactiveFlat);
+    EXPECT_COPIED(TitleInactive3DColor1);
+    EXPECT_COPIED(TitleInactive3DColor2);
+    EXPECT_COPIED(TitleInactiveOverlap);
+    EXPECT_COPIED(ButtonVSize);
+    EXPECT_COPIED(ButtonFont);
+    EXPECT_COPIED(ButtonFontSize);
+    EXPECT_COPIED(ButtonFontColor);
+    EXPECT_COPIED(ButtonFontBold);
+    EXPECT_COPIED(ButtonFontItalic);
+    EXPECT_COPIED(ButtonAlignment);
+    EXPECT_COPIED(ButtonMinWidth);
+    EXPECT_COPIED(ButtonMaxWidth);
+    EXPECT_COPIED(ButtonTextOfset);
+    EXPECT_COPIED(ButtonTextType);
+    EXPECT_COPIED(ButtonIcons);
+    EXPECT_COPIED(ButtonIconSize);
+    EXPECT_COPIED(ButtonColor);
+    EXPECT_COPIED(ButtonColor2);
+    EXPECT_COPIED(ButtonGradient);
+    EXPECT_COPIED(ButtonGradientType);
+    EXPECT_COPIED(ButtonWrapGradient);
+    EXPECT_COPIED(ButtonBitmap);
+    EXPECT_COPIED(ButtonTileBitmap);
+    EXPECT_COPIED(ButtonBitmapToMenu);
+    EXPECT_COPIED(ButtonTransparent);
+    EXPECT_COPIED(ButtonFlat);
+    EXPECT_COPIED(Button3DColor1);
+    EXPECT_COPIED(Button3DColor2);
+    EXPECT_COPIED(Button3DStyle);
+    EXPECT_COPIED(ButtonStyle);
+    EXPECT_COPIED(ButtonShowInactive);
+    EXPECT_COPIED(ButtonInactiveColor);
+    EXPECT_COPIED(ButtonInactiveColor2);
+    EXPECT_COPIED(ButtonInactiveGradient);
+    EXPECT_COPIED(ButtonInactiveGradientType);
+    EXPECT_COPIED(ButtonInactiveWrapGradient);
+    EXPECT_COPIED(ButtonInactiveBitmap);
+    EXPECT_COPIED(ButtonInactiveTileBitmap);
+    EXPECT_COPIED(ButtonInactiveBitmapToMenu);
+    EXPECT_COPIED(ButtonInactiveTransparent);
+    EXPECT_COPIED(ButtonInactiveFontColor);
+    EXPECT_COPIED(ButtonInactiveFlat);
+    EXPECT_COPIED(ButtonInactive3DColor1);
+    EXPECT_COPIED(ButtonInactive3DColor2);
+    EXPECT_COPIED(SelBar);
+    EXPECT_COPIED(SelBarColor);
+    EXPECT_COPIED(SelBarColor2);
+    EXPECT_COPIED(SelBarTextColor);
+    EXPECT_COPIED(SelBarGradient);
+    EXPECT_COPIED(SelBarGradientType);
+    EXPECT_COPIED(SelBarWrapGradient);
+    EXPECT_COPIED(SelBarTileBitmap);
+    EXPECT_COPIED(SelBarFollowMouse);
+    EXPECT_COPIED(SelBarBlink);
+    EXPECT_COPIED(ScrollShowSelBar);
+    EXPECT_COPIED(Menu3DArrows);
+    EXPECT_COPIED(HotkeyStyle);
+    EXPECT_COPIED(CloseStatus);
+    EXPECT_COPIED(RollUpStatus);
+    EXPECT_COPIED(RotateStatus);
+    EXPECT_COPIED(AlwaysOnTopStatus);
+    EXPECT_COPIED(ClosePosition);
+    EXPECT_COPIED(RollUpPosition);
+    EXPECT_COPIED(RotatePosition);
+    EXPECT_COPIED(AlwaysOnTopPosition);
+    EXPECT_COPIED(MenuNoFrames);
+    EXPECT_COPIED(Menu3DFrame);
+    EXPECT_COPIED(Menu3DFrame2);
+    EXPECT_COPIED(MenuFrameColor);
+    EXPECT_COPIED(MenuFrameColor2);
+    EXPECT_COPIED(MenuFrameColor3);
+    EXPECT_COPIED(MenuFrameColor4);
+    EXPECT_COPIED(MenuFrameToBody);
+    EXPECT_COPIED(MenuIsGradientTarget);
+    EXPECT_COPIED(InactiveMenuIsGradientTarget);
+    EXPECT_COPIED(MenuMaxNoItems);
+    EXPECT_COPIED(TwinScrollButtons);
+    EXPECT_COPIED(MenuHorizontalStyle);
+    EXPECT_COPIED(HorzNoTitlebar);
+    EXPECT_COPIED(HorzLockWidth);
+    EXPECT_COPIED(HorzAutoRotate);
+    EXPECT_COPIED(HorzButtonsOnly);
+    EXPECT_COPIED(MenuAlignWithTitle);
+    EXPECT_COPIED(MenuOverlapMenus);
+    EXPECT_COPIED(BitmapsFolder);
+}
+
+TEST(LookFromSettings, TakesTheDefaultsOfTheSettings) {
+    MenuLook look = DefaultLook();
+    EXPECT_EQ(look.TitleVSize, 22);
+    EXPECT_EQ(look.ButtonVSize, 20);
+    EXPECT_EQ(look.ButtonColor, 0xDFDFDF);
+    EXPECT_EQ(look.Title3DColor1, 0x909790);
+    EXPECT_EQ(look.MenuMaxNoItems, 9999);
+    EXPECT_EQ(look.TitleFont, "Arial");
+}
+
+TEST(PartLook, DefaultTitleIsSolidBlackWithWhiteTextAndARaisedEdge) {
+    PartLook title = LookOf(DefaultLook(), Part::Title, false);
+    EXPECT_EQ(title.background, Background::Solid);
+    EXPECT_EQ(title.colour, 0x000000);
+    EXPECT_EQ(title.textColour, 0xFFFFFF);
+    EXPECT_FALSE(title.flat);
+    EXPECT_EQ(title.edgeStyle, EdgeStyle::Raised);
+    EXPECT_EQ(title.edgeLight, 0x909790);
+    EXPECT_EQ(title.edgeDark, 0x000000);
+    EXPECT_EQ(title.bitmapStem, "TitleA");
+    EXPECT_EQ(title.textEffect, TextEffect::Plain);
+}
+
+TEST(PartLook, DefaultButtonsAreAFlatGradientOverTheWholeMenu) {
+    PartLook button = LookOf(DefaultLook(), Part::Button, false);
+    EXPECT_EQ(button.background, Background::Gradient);
+    EXPECT_EQ(button.gradient, (GradientSpec{0xDFDFDF, 0x919191, 0, false}));
+    EXPECT_TRUE(button.overMenu);
+    EXPECT_TRUE(button.flat);
+    EXPECT_EQ(button.textColour, 0x000000);
+    EXPECT_EQ(button.bitmapStem, "ButtonA");
+}
+
+TEST(PartLook, DefaultSelectionBarIsSolidWhiteWithBlackText) {
+    PartLook bar = LookOf(DefaultLook(), Part::SelectionBar, false);
+    EXPECT_EQ(bar.background, Background::Solid);
+    EXPECT_EQ(bar.colour, 0xFFFFFF);
+    EXPECT_EQ(bar.textColour, 0x000000);
+    EXPECT_FALSE(bar.overMenu);
+}
+
+TEST(PartLook, GradientTakesBothColoursTypeAndWrap) {
+    MenuLook look = DefaultLook();
+    look.TitleGradient = true;
+    look.TitleColor = 0x112233;
+    look.TitleColor2 = 0x445566;
+    look.TitleGradientType = 1;
+    look.TitleWrapGradient = true;
+    PartLook title = LookOf(look, Part::Title, false);
+    EXPECT_EQ(title.background, Background::Gradient);
+    EXPECT_EQ(title.gradient, (GradientSpec{0x112233, 0x445566, 1, true}));
+}
+
+TEST(PartLook, BitmapWinsOverGradient) {
+    MenuLook look = DefaultLook();
+    look.ButtonBitmap = true;
+    look.ButtonTileBitmap = true;
+    PartLook button = LookOf(look, Part::Button, false);
+    EXPECT_EQ(button.background, Background::Bitmap);
+    EXPECT_TRUE(button.tileBitmap);
+    EXPECT_EQ(button.colour, 0xDFDFDF); // what shows when the picture is missing
+    EXPECT_FALSE(button.overMenu);
+    look.ButtonBitmapToMenu = true;
+    EXPECT_TRUE(LookOf(look, Part::Button, false).overMenu);
+}
+
+TEST(PartLook, GradientSpansTheMenuOnlyWhenTheMenuIsItsTarget) {
+    MenuLook look = DefaultLook();
+    look.MenuIsGradientTarget = false;
+    EXPECT_FALSE(LookOf(look, Part::Button, false).overMenu);
+    look.ButtonGradient = false;
+    look.MenuIsGradientTarget = true;
+    EXPECT_FALSE(LookOf(look, Part::Button, false).overMenu); // solid buttons
+}
+
+TEST(PartLook, VerticalTitleUsesTheVerticalPicture) {
+    MenuLook look = DefaultLook();
+    look.TitlePosition = 2;
+    EXPECT_EQ(LookOf(look, Part::Title, false).bitmapStem, "VTitleA");
+    look.TitleShowInactive = true;
+    EXPECT_EQ(LookOf(look, Part::Title, true).bitmapStem, "VTitleI");
+}
+
+TEST(PartLook, InactiveLookIsUsedOnlyWhenItsSwitchIsOn) {
+    MenuLook look = DefaultLook();
+    look.TitleInactiveColor = 0x0000AA;
+    look.ButtonInactiveColor = 0x00AA00;
+    EXPECT_FALSE(UsesInactiveLook(look, Part::Title, true));
+    EXPECT_EQ(LookOf(look, Part::Title, true), LookOf(look, Part::Title, false));
+    EXPECT_EQ(LookOf(look, Part::Button, true), LookOf(look, Part::Button, false));
+
+    look.TitleShowInactive = true;
+    EXPECT_TRUE(UsesInactiveLook(look, Part::Title, true));
+    EXPECT_FALSE(UsesInactiveLook(look, Part::Title, false));
+    EXPECT_FALSE(UsesInactiveLook(look, Part::Button, true));
+    EXPECT_EQ(LookOf(look, Part::Title, true).colour, 0x0000AA);
+    EXPECT_EQ(LookOf(look, Part::Title, false).colour, 0x000000);
+    EXPECT_EQ(LookOf(look, Part::Button, true).colour, 0xDFDFDF);
+}
+
+TEST(PartLook, InactiveTitleTakesEveryInactiveSetting) {
+    MenuLook look = DefaultLook();
+    look.TitleShowInactive = true;
+    look.TitleInactiveGradient = true;
+    look.TitleInactiveColor = 1;
+    look.TitleInactiveColor2 = 2;
+    look.TitleInactiveGradientType = 2;
+    look.TitleInactiveWrapGradient = true;
+    look.TitleInactiveFontColor = 3;
+    look.TitleInactiveFlat = true;
+    look.TitleInactive3DColor1 = 4;
+    look.TitleInactive3DColor2 = 5;
+    look.TitleInactiveTileBitmap = true;
+    PartLook title = LookOf(look, Part::Title, true);
+    EXPECT_EQ(title.background, Background::Gradient);
+    EXPECT_EQ(title.gradient, (GradientSpec{1, 2, 2, true}));
+    EXPECT_EQ(title.textColour, 3);
+    EXPECT_TRUE(title.flat);
+    EXPECT_EQ(title.edgeLight, 4);
+    EXPECT_EQ(title.edgeDark, 5);
+    EXPECT_TRUE(title.tileBitmap);
+    EXPECT_EQ(title.bitmapStem, "TitleI");
+    look.TitleInactiveBitmap = true;
+    EXPECT_EQ(LookOf(look, Part::Title, true).background, Background::Bitmap);
+}
+
+TEST(PartLook, InactiveButtonsTakeEveryInactiveSetting) {
+    MenuLook look = DefaultLook();
+    look.ButtonShowInactive = true;
+    look.ButtonInactiveGradient = true;
+    look.ButtonInactiveColor = 1;
+    look.ButtonInactiveColor2 = 2;
+    look.ButtonInactiveGradientType = 1;
+    look.ButtonInactiveWrapGradient = true;
+    look.ButtonInactiveFontColor = 3;
+    look.ButtonInactiveFlat = 0;
+    look.ButtonInactive3DColor1 = 4;
+    look.ButtonInactive3DColor2 = 5;
+    look.ButtonInactiveTransparent = -1;
+    look.InactiveMenuIsGradientTarget = false;
+    PartLook button = LookOf(look, Part::Button, true);
+    EXPECT_EQ(button.gradient, (GradientSpec{1, 2, 1, true}));
+    EXPECT_EQ(button.textColour, 3);
+    EXPECT_FALSE(button.flat);
+    EXPECT_EQ(button.edgeLight, 4);
+    EXPECT_EQ(button.edgeDark, 5);
+    EXPECT_TRUE(button.transparent);
+    EXPECT_FALSE(button.overMenu);
+    EXPECT_EQ(button.bitmapStem, "ButtonI");
+    EXPECT_TRUE(LookOf(look, Part::Button, false).overMenu);
+}
+
+TEST(PartLook, SelectionBarKindIsANumber) {
+    MenuLook look = DefaultLook();
+    look.SelBarColor = 0x102030;
+    look.SelBarColor2 = 0x405060;
+    look.SelBarGradientType = 1;
+    look.SelBarWrapGradient = true;
+    look.SelBarTextColor = 0x0000FF;
+    look.SelBarGradient = 1;
+    PartLook bar = LookOf(look, Part::SelectionBar, false);
+    EXPECT_EQ(bar.background, Background::Gradient);
+    EXPECT_EQ(bar.gradient, (GradientSpec{0x102030, 0x405060, 1, true}));
+    EXPECT_EQ(bar.textColour, 0x0000FF);
+    look.SelBarGradient = 2;
+    look.SelBarTileBitmap = true;
+    bar = LookOf(look, Part::SelectionBar, false);
+    EXPECT_EQ(bar.background, Background::Bitmap);
+    EXPECT_TRUE(bar.tileBitmap);
+    EXPECT_EQ(bar.bitmapStem, "ButtonAS");
+    look.ButtonShowInactive = true;
+    EXPECT_EQ(LookOf(look, Part::SelectionBar, true).bitmapStem, "ButtonIS");
+}
+
+TEST(PartLook, ButtonFlatStyleTwoLeavesTheEdgeToTheSelectionBar) {
+    MenuLook look = DefaultLook();
+    look.ButtonFlat = 0;
+    EXPECT_FALSE(LookOf(look, Part::Button, false).flat);
+    EXPECT_FALSE(LookOf(look, Part::SelectionBar, false).flat);
+    look.ButtonFlat = 1;
+    EXPECT_TRUE(LookOf(look, Part::Button, false).flat);
+    EXPECT_TRUE(LookOf(look, Part::SelectionBar, false).flat);
+    look.ButtonFlat = 2;
+    EXPECT_TRUE(LookOf(look, Part::Button, false).flat);
+    EXPECT_FALSE(LookOf(look, Part::SelectionBar, false).flat);
+}
+
+TEST(PartLook, TextTypeAndEdgeStyleNumbers) {
+    MenuLook look = DefaultLook();
+    look.TitleTextType = 0;
+    look.ButtonTextType = 1;
+    EXPECT_EQ(LookOf(look, Part::Title, false).textEffect, TextEffect::Sunken);
+    EXPECT_EQ(LookOf(look, Part::Button, false).textEffect, TextEffect::Raised);
+    look.ButtonTextType = 5;
+    EXPECT_EQ(LookOf(look, Part::Button, false).textEffect, TextEffect::Plain);
+
+    look.Button3DStyle = 1;
+    EXPECT_EQ(LookOf(look, Part::Button, false).edgeStyle, EdgeStyle::Sunken);
+    EXPECT_EQ(LookOf(look, Part::SelectionBar, false).edgeStyle, EdgeStyle::Sunken);
+    EXPECT_EQ(LookOf(look, Part::Title, false).edgeStyle, EdgeStyle::Raised);
+    look.Button3DStyle = 4;
+    EXPECT_EQ(LookOf(look, Part::Button, false).edgeStyle, EdgeStyle::Bump);
+}

@@ -1,0 +1,106 @@
+#include "menuwindow/text_fit.h"
+
+#include <gtest/gtest.h>
+
+using namespace MenuWindow;
+
+namespace {
+
+// 7 pixels per character (per UTF-8 sequence), counting how often it is asked.
+struct FakeMeasure {
+    int calls = 0;
+    int operator()(std::string_view text) {
+        ++calls;
+        int characters = 0;
+        for (char c : text) {
+            if ((static_cast<unsigned char>(c) & 0xC0) != 0x80)
+                ++characters;
+        }
+        return 7 * characters;
+    }
+};
+
+int PerByte(std::string_view text) {
+    return 7 * static_cast<int>(text.size());
+}
+
+std::string Fit(std::string_view text, int room) {
+    FakeMeasure measure;
+    return FitText(text, room, std::ref(measure));
+}
+
+} // namespace
+
+TEST(FitText, TextThatFitsStaysWhole) {
+    EXPECT_EQ(Fit("Programs", 56), "Programs");
+    EXPECT_EQ(Fit("Programs", 500), "Programs");
+    EXPECT_EQ(Fit("", 0), "");
+}
+
+TEST(FitText, TextOnePixelTooWideEndsInEllipsis) {
+    // "Prog..." is 7 characters, 49 pixels; "Progr..." would be 56.
+    EXPECT_EQ(Fit("Programs", 55), "Prog...");
+}
+
+TEST(FitText, TakesTheLongestBeginningThatFits) {
+    std::string text = "Accessories and system tools";
+    for (int room = 21; room < 7 * 28; ++room) {
+        std::string fitted = Fit(text, room);
+        ASSERT_TRUE(fitted.ends_with("...")) << room;
+        EXPECT_LE(7 * static_cast<int>(fitted.size()), room);
+        std::string kept = fitted.substr(0, fitted.size() - 3);
+        EXPECT_TRUE(text.starts_with(kept)) << fitted;
+        // One character more would not fit (unless it was a blank that was dropped).
+        std::size_t next = kept.size() + 1;
+        while (next < text.size() && text[next - 1] == ' ')
+            ++next;
+        EXPECT_GT(7 * static_cast<int>(next + 3), room) << fitted;
+    }
+}
+
+TEST(FitText, DropsTheBlanksBeforeTheEllipsis) {
+    // "My " fits with "..." but is shown as "My...".
+    EXPECT_EQ(Fit("My Documents", 42), "My...");
+}
+
+TEST(FitText, EllipsisAloneWhenNoCharacterFitsWithIt) {
+    EXPECT_EQ(Fit("Hello world", 27), "...");
+    EXPECT_EQ(Fit("Hello world", 21), "...");
+}
+
+TEST(FitText, NothingWhenNotEvenTheEllipsisFits) {
+    EXPECT_EQ(Fit("Hello world", 20), "");
+    EXPECT_EQ(Fit("Hello world", 0), "");
+    EXPECT_EQ(Fit("Hello world", -5), "");
+}
+
+TEST(FitText, NeverCutsInsideAUtf8Character) {
+    // Measured per byte, the first byte of "Ä" and "..." would just fit; half a character may not be shown.
+    EXPECT_EQ(FitText("\xC3\x84pfel", 28, PerByte), "...");
+    EXPECT_EQ(FitText("\xC3\x84pfel", 35, PerByte), "\xC3\x84...");
+    EXPECT_EQ(FitText("\xE6\x97\xA5\xE6\x9C\xAC\xE8\xAA\x9E", 7 * 8, PerByte), "\xE6\x97\xA5...");
+}
+
+TEST(FitText, MeasuresFewTimesForALongText) {
+    std::string text(2000, 'x');
+    FakeMeasure measure;
+    EXPECT_EQ(FitText(text, 7 * 13, std::ref(measure)), std::string(10, 'x') + "...");
+    EXPECT_LE(measure.calls, 16);
+}
+
+TEST(AlignedStart, PlacesTheTextInTheBox) {
+    EXPECT_EQ(AlignedStart(10, 100, 40, kAlignLeft), 10);
+    EXPECT_EQ(AlignedStart(10, 100, 40, kAlignCentre), 40);
+    EXPECT_EQ(AlignedStart(10, 100, 40, kAlignRight), 70);
+    EXPECT_EQ(AlignedStart(10, 100, 41, kAlignCentre), 39);
+}
+
+TEST(AlignedStart, OtherValuesAlignLeft) {
+    EXPECT_EQ(AlignedStart(10, 100, 40, 3), 10);
+    EXPECT_EQ(AlignedStart(10, 100, 40, -1), 10);
+}
+
+TEST(AlignedStart, TextLongerThanTheBoxStartsAtTheBoxStart) {
+    EXPECT_EQ(AlignedStart(10, 100, 120, kAlignRight), 10);
+    EXPECT_EQ(AlignedStart(10, 100, 100, kAlignCentre), 10);
+}
