@@ -1,0 +1,258 @@
+#include "menus/folder_listing.h"
+
+#include "core/text.h"
+#include "menus/folder_sort.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+using Strings = std::vector<std::string>;
+
+DirEntry File(const std::string& name, std::uint32_t attributes = 0) {
+    return {name, attributes, false};
+}
+DirEntry Folder(const std::string& name, std::uint32_t attributes = 0) {
+    return {name, attributes | 0x10, true};
+}
+
+FolderListRequest Request(std::uint8_t filter = kFilterAllFiles, const std::string& mask = "", int skip = 0) {
+    FolderListRequest request;
+    request.folder = "C:\\F\\";
+    request.filter = filter;
+    request.mask = mask;
+    request.skip = skip;
+    return request;
+}
+
+// Feeds the entries of the first folder, then those of the second when it is listed.
+FolderListing List(const FolderListRequest& request, const SettingsRec& settings, const std::vector<DirEntry>& first,
+                   const std::vector<DirEntry>& second = {}) {
+    FolderListBuilder builder(request, settings);
+    const Strings folders = builder.Folders();
+    for (std::size_t f = 0; f < folders.size(); ++f)
+        for (const DirEntry& entry : f == 0 ? first : second)
+            builder.Add(folders[f], entry);
+    return builder.Finish();
+}
+
+Strings Labels(const FolderListing& listing) {
+    Strings labels;
+    for (const DisplayEntry& entry : listing.entries)
+        labels.push_back(entry.LABEL);
+    return labels;
+}
+
+Strings Listed(const SettingsRec& settings, const std::vector<DirEntry>& found,
+               const FolderListRequest& request = Request()) {
+    return Labels(List(request, settings, found));
+}
+
+std::vector<DirEntry> Files(int count) {
+    std::vector<DirEntry> files;
+    for (int k = 1; k <= count; ++k)
+        files.push_back(File((k < 10 ? "f0" : "f") + std::to_string(k) + ".txt"));
+    return files;
+}
+
+DisplayEntry Entry(const std::string& label, std::uint8_t type, const std::string& path, std::uint8_t filter = 0,
+                   const std::string& mask = "", const std::string& second = "") {
+    DisplayEntry entry;
+    entry.LABEL = label;
+    entry.TYPE = type;
+    entry.PATH = path;
+    entry.RUNSTATE = filter;
+    entry.FILETYPEMASK = mask;
+    entry.ARG = second;
+    return entry;
+}
+
+SettingsRec NoExtensions() {
+    SettingsRec settings;
+    settings.GenShowExtensions = false;
+    return settings;
+}
+
+} // namespace
+
+TEST(FolderListing, ListsFoldersFirstThenFilesWithoutPagefileAndFillsTheEntries) {
+    const FolderListing listing = List(Request(kFilterUserMask, ".exe.txt"), NoExtensions(),
+                                       {File("a.exe"), File("B.TXT"), File("pagefile.sys"), Folder("Tools")});
+    EXPECT_EQ(Labels(listing), (Strings{"Tools", "a", "B"}));
+    EXPECT_EQ(listing.folderCount, 1);
+    EXPECT_EQ(listing.entries[0], Entry("Tools", 2, "C:\\F\\Tools\\", kFilterUserMask, ".exe.txt"));
+    EXPECT_EQ(listing.entries[1], Entry("a", 0, "C:\\F\\a.exe"));
+}
+
+TEST(FolderListing, SkipsDotEntriesPagefileHiddenAndSystemEntriesByTheSettings) {
+    SettingsRec settings;
+    settings.GenShowHidden = settings.GenShowSystem = false;
+    const std::vector<DirEntry> found = {Folder("."),
+                                         Folder(".."),
+                                         File("PageFile.SYS"),
+                                         File("h.txt", 2),
+                                         Folder("H", 2),
+                                         File("s.txt", 4),
+                                         File(std::string("ok.txt\0junk", 11))};
+    EXPECT_EQ(Listed(settings, found), (Strings{"ok.txt"}));
+    settings.GenShowHidden = true;
+    EXPECT_EQ(Listed(settings, found), (Strings{"H", "h.txt", "ok.txt"}));
+    settings.GenShowSystem = true;
+    EXPECT_EQ(Listed(settings, found), (Strings{"H", "h.txt", "ok.txt", "s.txt"}));
+}
+
+TEST(FolderListing, SortsMixedCaseNamesWithFoldersAtTheTopTheBottomOrMixed) {
+    const std::vector<DirEntry> found = {File("banana.txt"),
+                                         Folder("~zoo"),
+                                         File("Apple.txt"),
+                                         Folder("Bin"),
+                                         File("_x.txt"),
+                                         File("apple2.txt"),
+                                         File("\xC3\xA9t\xC3\xA9.txt")};
+    SettingsRec settings = NoExtensions();
+    const std::string ete = "\xC3\xA9t\xC3\xA9";
+    EXPECT_EQ(Listed(settings, found), (Strings{"Bin", "~zoo", "_x", "Apple", "apple2", "banana", ete}));
+    settings.MenuFolderPosition = 1;
+    EXPECT_EQ(Listed(settings, found), (Strings{"_x", "Apple", "apple2", "banana", ete, "Bin", "~zoo"}));
+    settings.MenuFolderPosition = 2;
+    EXPECT_EQ(Listed(settings, found), (Strings{"_x", "Apple", "apple2", "banana", "Bin", "~zoo", ete}));
+}
+
+TEST(FolderListing, FiltersByTheLowerCasedLastFourCharactersFoundAnywhereInTheList) {
+    const std::vector<DirEntry> found = {File("ab"),     File("readme.txt"), File("TOOL.EXE"), File("x.lnk"),
+                                         File("abxe.b"), File("notes.TXT"),  File("desk.cpl"), File("t"),
+                                         Folder("Sub"),  Folder("Net.cpl")};
+    const SettingsRec settings;
+    // "abxe.b" ends in "xe.b", which occurs inside ".exe.bat".
+    EXPECT_EQ(Listed(settings, found, Request(kFilterExecutables)),
+              (Strings{"Net.cpl", "Sub", "ab", "abxe.b", "desk", "t", "TOOL.EXE", "x"}));
+    EXPECT_EQ(Listed(settings, found, Request(kFilterControlPanel)), (Strings{"desk", "Net"}));
+    EXPECT_EQ(Listed(settings, found, Request(kFilterUserMask, ".txt")),
+              (Strings{"Net.cpl", "Sub", "notes.TXT", "readme.txt", "t"}));
+    EXPECT_EQ(Listed(settings, found, Request(kFilterUserMask, ".TXT")), (Strings{"Net.cpl", "Sub"}));
+    EXPECT_EQ(Listed(settings, found, Request(7)), (Strings{"Net.cpl", "Sub"}));
+    const FolderListing applets = List(Request(kFilterControlPanel), settings, found);
+    EXPECT_EQ(applets.folderCount, 0);
+    EXPECT_EQ(applets.entries[1].PATH, "C:\\F\\Net.cpl");
+}
+
+TEST(FolderListing, HidesExtensionsOfShortcutsAlwaysAndOfOtherFilesByTheSetting) {
+    const std::string japanese = "\xE6\x97\xA5\xE6\x9C\xAC"; // two characters, six bytes
+    const std::vector<DirEntry> found = {File("setup.lnk"), File("report.doc"),      File("site.URL"), File("notes.md"),
+                                         File("README"),    File(japanese + ".pif"), File(".cf")};
+    SettingsRec settings;
+    EXPECT_EQ(Listed(settings, found), (Strings{".cf", "notes.md", "README", "report.doc", "setup", "site", japanese}));
+    // Only a dot fourth from the end of a name of four or more characters marks an extension.
+    EXPECT_EQ(Listed(NoExtensions(), found),
+              (Strings{".cf", "notes.md", "README", "report", "setup", "site", japanese}));
+    // Characters, not bytes: the two-character name is short enough for the executables filter.
+    EXPECT_EQ(Listed(settings, {File(japanese), File("\xD1\x84\xD0\xB0\xD0\xB9\xD0\xBB")}, Request(kFilterExecutables)),
+              (Strings{japanese}));
+}
+
+TEST(FolderListing, ListsASecondFolderIntoTheSameListUnlessItIsTheFirst) {
+    FolderListRequest request = Request();
+    request.secondFolder = "D:\\G\\";
+    const FolderListing listing = List(request, SettingsRec{}, {File("same.txt")}, {File("same.txt"), File("b.txt")});
+    EXPECT_EQ(Labels(listing), (Strings{"b.txt", "same.txt", "same.txt"}));
+    EXPECT_EQ(listing.entries[0].PATH, "D:\\G\\b.txt");
+    request.secondFolder = request.folder;
+    EXPECT_EQ(FolderListBuilder(request, SettingsRec{}).Folders(), (Strings{"C:\\F\\"}));
+}
+
+TEST(FolderListing, PutsMoreOnTopOrAtTheEndOfALongList) {
+    SettingsRec settings;
+    settings.MenuMaxNoItems = 10;
+    FolderListRequest request = Request(kFilterUserMask, ".txt");
+    request.secondFolder = "D:\\G\\";
+    const FolderListing top = List(request, settings, Files(15));
+    EXPECT_EQ(Labels(top), (Strings{"More...", "f01.txt", "f02.txt", "f03.txt", "f04.txt", "f05.txt", "f06.txt",
+                                    "f07.txt", "f08.txt", "f09.txt"}));
+    EXPECT_EQ(top.moreIndex, 0u);
+    const DisplayEntry more = Entry("More...", 2, "C:\\F\\", kFilterUserMask, ".txt", "D:\\G\\");
+    EXPECT_EQ(top.entries[0], more);
+    settings.ShowMoreOnTop = false;
+    const FolderListing end = List(request, settings, Files(15));
+    EXPECT_EQ(end.moreIndex, 9u);
+    EXPECT_EQ(end.entries[8].LABEL, "f09.txt");
+    EXPECT_EQ(end.entries[9], more);
+    EXPECT_FALSE(List(request, settings, Files(10)).moreIndex.has_value());
+    settings.MenuMaxNoItems = 0; // still room for one entry beside "More..."
+    EXPECT_EQ(Listed(settings, Files(3)), (Strings{"f01.txt", "More..."}));
+}
+
+TEST(FolderListing, ASkipCountPagesThroughALongList) {
+    SettingsRec settings;
+    settings.MenuMaxNoItems = 5;
+    EXPECT_EQ(Listed(settings, Files(15), Request(kFilterAllFiles, "", 4)),
+              (Strings{"More...", "f05.txt", "f06.txt", "f07.txt", "f08.txt"}));
+    EXPECT_EQ(Listed(settings, Files(15), Request(kFilterAllFiles, "", 12)),
+              (Strings{"f13.txt", "f14.txt", "f15.txt"}));
+    const FolderListing listing =
+        List(Request(kFilterAllFiles, "", 2), settings, {Folder("A"), Folder("B"), Folder("C"), File("x.txt")});
+    EXPECT_EQ(Labels(listing), (Strings{"C", "x.txt"}));
+    EXPECT_EQ(listing.folderCount, 1);
+}
+
+TEST(FolderListing, ShowsEmptyForNothingToList) {
+    for (const FolderListing& listing :
+         {List(Request(), SettingsRec{}, {}), List(Request(), SettingsRec{}, {Folder("."), Folder("..")}),
+          List(Request(kFilterAllFiles, "", 3), SettingsRec{}, Files(3))}) {
+        EXPECT_TRUE(listing.empty);
+        EXPECT_EQ(Labels(listing), (Strings{"(Empty)"}));
+        EXPECT_EQ(listing.folderCount, 0);
+    }
+}
+
+TEST(FolderListing, TurnsTheHourglassOnOnceAtTheTwoHundredthOrSeventiethListedEntry) {
+    for (const bool early : {false, true}) {
+        FolderListRequest request = Request(kFilterUserMask, ".txt");
+        request.earlyHourglass = early;
+        SettingsRec settings;
+        settings.GenShowHidden = false;
+        FolderListBuilder builder(request, settings);
+        std::vector<int> turnedOnAt;
+        for (int k = 1; k <= 300; ++k) // skipped and filtered entries do not count
+            for (const DirEntry& entry : {File("h.txt", 2), File("f.txt"), File("r.doc")})
+                if (builder.Add(k <= 100 ? "C:\\F\\" : "D:\\G\\", entry))
+                    turnedOnAt.push_back(k);
+        EXPECT_EQ(turnedOnAt, (std::vector<int>{early ? 70 : 200}));
+    }
+}
+
+TEST(FolderListing, SortEntriesLeavesEqualLabelsWhereThisQuicksortPutsThem) {
+    // The sort as it reads: recursion on both parts, lower-casing at every comparison.
+    const auto reading = [](auto& self, std::vector<DisplayEntry>& list, int first, int last) -> void {
+        int i = first, j = last;
+        const std::string pivot = Text::ToLower(list[(first + last) / 2].LABEL);
+        while (i <= j) {
+            while (Text::ToLower(list[i].LABEL) < pivot)
+                ++i;
+            while (Text::ToLower(list[j].LABEL) > pivot)
+                --j;
+            if (i <= j)
+                std::swap(list[i++], list[j--]);
+        }
+        if (first < j)
+            self(self, list, first, j);
+        if (i < last)
+            self(self, list, i, last);
+    };
+    const Strings words = {"a", "A", "b", "B", "ab", "Ab", "_", ""};
+    for (unsigned seed = 1; seed <= 200; ++seed) {
+        std::mt19937 random(seed);
+        std::vector<DisplayEntry> list(1 + random() % 60);
+        for (std::size_t k = 0; k < list.size(); ++k) {
+            list[k].LABEL = words[random() % words.size()];
+            list[k].PATH = std::to_string(k); // tells entries with equal labels apart
+        }
+        std::vector<DisplayEntry> expected = list;
+        reading(reading, expected, 0, static_cast<int>(list.size()) - 1);
+        SortEntries(list, 0, static_cast<std::ptrdiff_t>(list.size()) - 1);
+        ASSERT_EQ(list, expected) << "seed " << seed;
+    }
+}
