@@ -1,0 +1,205 @@
+#include "core/win/form1.h"
+
+#include "core/message_box.h"
+#include "core/win/subroutines.h"
+#include "win/text_convert.h"
+
+#include <windowsx.h>
+
+namespace {
+
+constexpr UINT_PTR kTimer1 = 1;
+constexpr UINT_PTR kTimer3 = 3;
+constexpr UINT kTimer1Interval = 100;
+constexpr UINT kTimer3Interval = 10;
+
+constexpr UINT kPopSetup = 1;
+constexpr UINT kPopExit = 2;
+
+bool RegisterFormClass(HINSTANCE instance, HICON icon, HICON smallIcon, WNDPROC proc) {
+    WNDCLASSEXW wc{};
+    wc.cbSize = sizeof wc;
+    wc.lpfnWndProc = proc;
+    wc.hInstance = instance;
+    wc.hIcon = icon;
+    wc.hIconSm = smallIcon;
+    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    wc.lpszClassName = Form1::kClassName;
+    return ::RegisterClassExW(&wc) || ::GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
+}
+
+HICON LoadProgramIcon(const Program& program, int size) {
+    if (program.iconResource == 0)
+        return nullptr;
+    // Shared icons belong to the system's cache and are never destroyed by hand.
+    return static_cast<HICON>(
+        ::LoadImageW(program.instance, MAKEINTRESOURCEW(program.iconResource), IMAGE_ICON, size, size, LR_SHARED));
+}
+
+} // namespace
+
+Form1::Form1(Program& program) : program_(program) {}
+
+// The window goes first, while the object it calls back into is still whole.
+Form1::~Form1() {
+    window_.reset();
+}
+
+bool Form1::Create() {
+    HICON icon = LoadProgramIcon(program_, ::GetSystemMetrics(SM_CXICON));
+    if (!RegisterFormClass(program_.instance, icon, FormIcon(), WindowProc))
+        return false;
+    BuildSystrayMenu();
+    taskbarCreatedMessage_ = ::RegisterWindowMessageW(L"TaskbarCreated");
+    // A tool window never appears in the taskbar; the form is never shown anyway.
+    HWND hwnd = ::CreateWindowExW(WS_EX_TOOLWINDOW, kClassName, Win::Widen(kProgramTitle).c_str(), WS_POPUP, 0, 0, 0, 0,
+                                  nullptr, nullptr, program_.instance, this);
+    if (!hwnd)
+        return false;
+    // An elevated program would otherwise not hear a restarted shell ask for its icon.
+    ::ChangeWindowMessageFilterEx(hwnd, taskbarCreatedMessage_, MSGFLT_ALLOW, nullptr);
+    return true;
+}
+
+HICON Form1::FormIcon() const {
+    return LoadProgramIcon(program_, ::GetSystemMetrics(SM_CXSMICON));
+}
+
+void Form1::BuildSystrayMenu() {
+    menuBar_.reset(::CreateMenu());
+    HMENU popup = ::CreatePopupMenu();
+    ::AppendMenuW(popup, MF_STRING, kPopSetup, L"&Preferences");
+    ::AppendMenuW(popup, MF_STRING, kPopExit, L"E&xit");
+    // The menu bar owns the popup from here on and destroys it with itself.
+    ::AppendMenuW(menuBar_.get(), MF_POPUP, reinterpret_cast<UINT_PTR>(popup), L"&Systray");
+}
+
+LRESULT CALLBACK Form1::WindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCCREATE) {
+        auto* form = static_cast<Form1*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+        form->window_.reset(hwnd);
+        ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
+    }
+    auto* form = reinterpret_cast<Form1*>(::GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+    if (!form)
+        return ::DefWindowProcW(hwnd, message, wParam, lParam);
+    if (message == WM_NCDESTROY) {
+        ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
+        form->window_.release();
+        return ::DefWindowProcW(hwnd, message, wParam, lParam);
+    }
+    return form->HandleMessage(hwnd, message, wParam, lParam);
+}
+
+LRESULT Form1::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_CREATE:
+        ::SetTimer(hwnd, kTimer3, kTimer3Interval, nullptr);
+        return 0;
+    case WM_MOUSEMOVE:
+        Form_MouseMove(wParam, GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
+        return 0;
+    case WM_TIMER:
+        if (wParam == kTimer1)
+            Timer1_Timer();
+        else if (wParam == kTimer3)
+            Timer3_Timer();
+        return 0;
+    case WM_CLOSE:
+        // Closed from outside (a task manager, the system): leave the desktop as it was.
+        Subroutines::ExitProgram(*this, true);
+        return 0;
+    case WM_DESTROY:
+        ::PostQuitMessage(0);
+        return 0;
+    default:
+        if (message == taskbarCreatedMessage_ && message != 0) {
+            if (trayIcon_.shown())
+                trayIcon_.Add();
+            return 0;
+        }
+        return ::DefWindowProcW(hwnd, message, wParam, lParam);
+    }
+}
+
+// The tray icon's callback: the icon's record names the mouse-move message, and the
+// shell puts the mouse message where the form reads its X coordinate. The form
+// measures in pixels, so X is the message as it is.
+void Form1::Form_MouseMove(WPARAM, int x, int) {
+    switch (StartupRules::TrayCallbackAction(x)) {
+    case StartupRules::TrayAction::ChoosePreferences:
+        mPopSetup_Click();
+        break;
+    case StartupRules::TrayAction::PopUpMenu:
+        PopUpSystrayMenu();
+        break;
+    case StartupRules::TrayAction::None:
+        break;
+    }
+}
+
+// The form comes to the front first, so that a click anywhere else closes the menu;
+// the posted null message lets the menu close cleanly when the form loses the front.
+void Form1::PopUpSystrayMenu() {
+    HWND hwnd = window_.get();
+    POINT cursor{};
+    ::GetCursorPos(&cursor);
+    ::SetForegroundWindow(hwnd);
+    HMENU mPopupSys = ::GetSubMenu(menuBar_.get(), 0);
+    UINT chosen = static_cast<UINT>(::TrackPopupMenuEx(mPopupSys, TPM_RETURNCMD | TPM_NONOTIFY | TPM_RIGHTBUTTON,
+                                                       cursor.x, cursor.y, hwnd, nullptr));
+    ::PostMessageW(hwnd, WM_NULL, 0, 0);
+    if (chosen == kPopSetup)
+        mPopSetup_Click();
+    else if (chosen == kPopExit)
+        mPopExit_Click();
+}
+
+void Form1::mPopSetup_Click() {
+    if (!program_.values.PreferencesOpen)
+        Show_Setup_Screen();
+}
+
+void Form1::mPopExit_Click() {
+    Subroutines::ExitProgram(*this, false);
+}
+
+// The one place that opens the preferences window. That window is not part of this
+// build yet, so the user is told so instead of being shown nothing.
+void Form1::Show_Setup_Screen() {
+    program_.values.PreferencesOpen = true;
+    MessageBoxes::MsgBox("The preferences window is not part of this version of Tarvex yet.\n\n"
+                         "Your settings are kept in " +
+                             SettingsFile(program_.values) + ".",
+                         "Tarvex Preferences", MessageBoxes::kInformation);
+    program_.values.PreferencesOpen = false;
+}
+
+void Form1::Insert_TrayIcon() {
+    trayIcon_.Fill(window_.get(), FormIcon());
+    trayIcon_.Add();
+}
+
+void Form1::Remove_TrayIcon() {
+    trayIcon_.Remove();
+}
+
+void Form1::Form_Unload() {
+    ::KillTimer(window_.get(), kTimer1);
+    ::KillTimer(window_.get(), kTimer3);
+}
+
+void Form1::Unload() {
+    Form_Unload();
+    window_.reset();
+}
+
+void Form1::EnableTimer1() {
+    ::SetTimer(window_.get(), kTimer1, kTimer1Interval, nullptr);
+}
+
+// Turns a pending mouse event or a hot key into a hotspot and fires it; the hotspots issue fills it.
+void Form1::Timer1_Timer() {}
+
+// Samples the mouse buttons and the screen edges and keeps the form parked; the hotspots issue fills it.
+void Form1::Timer3_Timer() {}

@@ -1,0 +1,146 @@
+// Form_Load: the program's start-up sequence, step by step in its fixed order.
+#include "core/win/form1.h"
+
+#include "core/win/settings_store.h"
+#include "core/win/subroutines.h"
+#include "core/win/system_values.h"
+#include "prefs/win/first_run_introduction.h"
+#include "win/text_convert.h"
+
+namespace {
+constexpr int kParkedPositionTwips = -20000; // far off every screen
+constexpr int kParkedSizeTwips = 720;
+} // namespace
+
+Form1::LoadResult Form1::Form_Load() {
+    ProgramValues& values = program_.values;
+    values.SystemCaptionFont = SystemValues::ReadCaptionFont();
+    SetProgramTitle();
+    if (AnotherInstanceRunning() && Subroutines::SingleInstance(*this))
+        return LoadResult::EndProcess;
+    ParkOffScreen();
+    WorkOutProgramFolder();
+    CreateProgramFolders();
+    values.WindowsFolder = SystemValues::WindowsFolder();
+    values.SystemFolder = SystemValues::SystemFolder();
+    values.IsNT = SystemValues::IsNT();
+    SystemValues::TwipsPerPixel twips = SystemValues::ReadTwipsPerPixel();
+    values.TwipsPerPixelX = twips.x;
+    values.TwipsPerPixelY = twips.y;
+    values.SoundAvailable = SystemValues::SoundAvailable();
+    BuildInternalCommandTable();
+    LoadSettings();
+    LoadMenus();
+    ClearOpenMenus();
+    if (program_.settings.GenShowInTray)
+        Insert_TrayIcon();
+    OpenPreferencesAtStart();
+    if (!window_)
+        return LoadResult::EndProcess; // closed while the preferences were up
+    InstallAutoInstallPackages();
+    EnableTimer1();
+    ApplyDesktopSettings();
+    OpenStartupHotspots();
+    return LoadResult::Running;
+}
+
+void Form1::SetProgramTitle() {
+    program_.values.ProgramTitle = kProgramTitle;
+    ::SetWindowTextW(window_.get(), Win::Widen(kProgramTitle).c_str());
+}
+
+// Another instance holds the marker for as long as it runs. Ours is taken here and
+// kept, so that later starts find it too.
+bool Form1::AnotherInstanceRunning() {
+    HANDLE marker = ::CreateMutexW(nullptr, FALSE, L"Tarvex2.Running");
+    bool existed = ::GetLastError() == ERROR_ALREADY_EXISTS;
+    instanceMarker_.reset(marker);
+    return existed;
+}
+
+void Form1::ParkOffScreen() {
+    SystemValues::TwipsPerPixel twips = SystemValues::ReadTwipsPerPixel();
+    int x = StartupRules::TwipsToPixels(kParkedPositionTwips, twips.x);
+    int y = StartupRules::TwipsToPixels(kParkedPositionTwips, twips.y);
+    int width = StartupRules::TwipsToPixels(kParkedSizeTwips, twips.x);
+    int height = StartupRules::TwipsToPixels(kParkedSizeTwips, twips.y);
+    ::SetWindowPos(window_.get(), nullptr, x, y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Form1::WorkOutProgramFolder() {
+    commandLineWords_ = StartupRules::FindCommandLineWords(program_.arguments);
+    SetProgramFolder(program_.values,
+                     StartupRules::ChooseProgramFolder(commandLineWords_, SystemValues::ExecutableFolder(),
+                                                       SystemValues::CurrentDirectory()));
+}
+
+void Form1::CreateProgramFolders() {
+    for (const std::string& folder : StartupRules::FoldersToCreate(program_.values))
+        SystemValues::CreateFolder(folder);
+}
+
+// The internal commands issue fills this: it builds the table of internal commands.
+void Form1::BuildInternalCommandTable() {}
+
+void Form1::LoadSettings() {
+    ProgramValues& values = program_.values;
+    values.ShellFolders = SettingsStore::ReadProgramFolders(values.WindowsFolder, values.IsNT);
+    SettingsStore::Load(SettingsFile(values), false, program_.settings);
+}
+
+// The menus issue fills this: it loads the menu file, or the default menus when it is missing.
+void Form1::LoadMenus() {}
+
+// The menu window issue fills this: no menu window open, no hotspot active, both lists empty.
+void Form1::ClearOpenMenus() {}
+
+void Form1::OpenPreferencesAtStart() {
+    bool settingsFileExists = SystemValues::FileExists(SettingsFile(program_.values));
+    switch (StartupRules::ChoosePreferencesAtStart(settingsFileExists, commandLineWords_)) {
+    case StartupRules::PreferencesAtStart::FirstRun:
+        RunFirstRun();
+        break;
+    case StartupRules::PreferencesAtStart::Setup:
+        Show_Setup_Screen();
+        break;
+    case StartupRules::PreferencesAtStart::None:
+        break;
+    }
+}
+
+// The introduction comes once: when the preferences have not written the settings
+// file by the time they close, the settings as they stand are written, so that the
+// next start is not a first run again.
+void Form1::RunFirstRun() {
+    program_.values.PreferencesOpen = true;
+    FirstRunIntroduction::ShowModal(program_.instance, window_.get(), program_.iconResource);
+    Show_Setup_Screen();
+    std::string settingsFile = SettingsFile(program_.values);
+    if (!SystemValues::FileExists(settingsFile))
+        SettingsStore::Save(settingsFile, false, program_.settings);
+}
+
+// The theme packages issue fills this: it unpacks each zip package waiting in the auto-install folder.
+void Form1::InstallAutoInstallPackages() {}
+
+void Form1::ApplyDesktopSettings() {
+    if (program_.settings.GenHideDesktopIcons)
+        HideDesktopIcons();
+    if (program_.settings.TaskbarRunOnStartup)
+        HideTaskbarAndShowSystray();
+}
+
+// The internal commands issue fills this: it hides the desktop icons and marks them hidden for the exit.
+void Form1::HideDesktopIcons() {}
+
+// The task list and systray issue fills this: it hides the taskbar, shows the systray copy and marks both.
+void Form1::HideTaskbarAndShowSystray() {}
+
+void Form1::OpenStartupHotspots() {
+    const SettingsRec& settings = program_.settings;
+    for (int hotspot : StartupRules::StartupHotspotsToOpen(settings.GenStartupHotspot, settings.NoOfHotSpots()))
+        OpenStartupHotspot(hotspot);
+}
+
+// The hotspots issue fills this: it makes the hotspot the current one and loads it (LoadHotspot).
+void Form1::OpenStartupHotspot(int) {}

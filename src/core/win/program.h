@@ -1,0 +1,20 @@
+// Everything the program holds for its whole run. wWinMain owns the one instance and
+// hands it to the forms, which read and change it on the one user-interface thread.
+#pragma once
+
+#include "core/exit_rules.h"
+#include "core/program_values.h"
+#include "core/settings.h"
+
+#include <windows.h>
+
+#include <string>
+
+struct Program {
+    HINSTANCE instance = nullptr;
+    int iconResource = 0;  // the program's icon among the exe's resources
+    std::string arguments; // the command line without the program's name
+    ProgramValues values;
+    SettingsRec settings;
+    ExitRules::DesktopChanges desktopChanges;
+};

@@ -1,0 +1,98 @@
+#include "core/win/subroutines.h"
+
+#include "core/exit_rules.h"
+#include "core/message_box.h"
+#include "core/win/form1.h"
+#include "win/text_convert.h"
+
+#include <windows.h>
+
+#include <string>
+
+namespace Subroutines {
+
+namespace {
+
+constexpr std::string_view kUnwantedTitle = "unwanted instance";
+
+bool AskExitQuestion(ProgramValues& values) {
+    values.ExitQuestionShowing = true;
+    int answer = MessageBoxes::MsgBox(ExitRules::kQuestion, ExitRules::kTitle, ExitRules::kStyle);
+    values.ExitQuestionShowing = false;
+    return ExitRules::ExitConfirmed(answer);
+}
+
+// The internal commands issue fills this: it puts the taskbar back under its own parent and in its place.
+void PutBackTaskbar(ExitRules::DesktopChanges&) {}
+
+// The internal commands issue fills this: it shows the taskbar that the program hid.
+void ShowTaskbar(ExitRules::DesktopChanges&) {}
+
+// The internal commands issue fills this: it shows the desktop icons that the program hid.
+void ShowDesktopIcons(ExitRules::DesktopChanges&) {}
+
+// The task list and systray issue fills this: it unloads the systray copy.
+void UnloadSystray() {}
+
+// The menu window issue fills this: it closes every open menu window.
+void CloseMenuWindows() {}
+
+// The issues that bring further forms fill this: they unload them before the main form.
+void UnloadOtherForms() {}
+
+void RunExitStep(Form1& form1, ExitRules::ExitStep step) {
+    ExitRules::DesktopChanges& changes = form1.program().desktopChanges;
+    switch (step) {
+    case ExitRules::ExitStep::PutBackTaskbar:
+        PutBackTaskbar(changes);
+        break;
+    case ExitRules::ExitStep::ShowTaskbar:
+        ShowTaskbar(changes);
+        break;
+    case ExitRules::ExitStep::ShowDesktopIcons:
+        ShowDesktopIcons(changes);
+        break;
+    case ExitRules::ExitStep::RemoveTrayIcon:
+        form1.Remove_TrayIcon();
+        break;
+    case ExitRules::ExitStep::UnloadSystray:
+        UnloadSystray();
+        break;
+    case ExitRules::ExitStep::CloseMenuWindows:
+        CloseMenuWindows();
+        break;
+    case ExitRules::ExitStep::UnloadForms:
+        UnloadOtherForms();
+        form1.Unload();
+        break;
+    }
+}
+
+} // namespace
+
+bool SingleInstance(Form1& form1) {
+    ProgramValues& values = form1.program().values;
+    std::string remembered = values.ProgramTitle;
+    values.ProgramTitle = kUnwantedTitle;
+    ::SetWindowTextW(form1.hwnd(), Win::Widen(kUnwantedTitle).c_str());
+    HWND other = ::FindWindowW(Form1::kClassName, Win::Widen(remembered).c_str());
+    if (!other)
+        return false;
+    ::OpenIcon(other);
+    ::SetForegroundWindow(other);
+    return true;
+}
+
+void ExitProgram(Form1& form1, bool quiet) {
+    ProgramValues& values = form1.program().values;
+    // One question at a time: a second exit while the box is up would take the
+    // program down underneath the first.
+    if (values.ExitQuestionShowing)
+        return;
+    if (!quiet && !AskExitQuestion(values))
+        return;
+    for (ExitRules::ExitStep step : ExitRules::ExitSteps(form1.program().desktopChanges, form1.TrayIconShown()))
+        RunExitStep(form1, step);
+}
+
+} // namespace Subroutines

@@ -1,0 +1,19 @@
+// Program-wide routines around the main form: the single-instance check and the exit.
+#pragma once
+
+class Form1;
+
+namespace Subroutines {
+
+// Another instance runs: this one takes the title "unwanted instance", so that its own
+// window no longer matches, and looks for the main form of the other by its class and
+// the program's title. When found, that one is brought forward and the result is true:
+// this process must end before it touches settings or the tray.
+bool SingleInstance(Form1& form1);
+
+// Shuts the program down: asks first unless quiet, then undoes what the program did to
+// the desktop, removes the tray icon, closes the menu windows and unloads the forms,
+// which ends the message loop and the process. A No leaves everything running.
+void ExitProgram(Form1& form1, bool quiet);
+
+} // namespace Subroutines

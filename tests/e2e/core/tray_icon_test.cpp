@@ -1,0 +1,142 @@
+// The tray icon: its record, its menu, and what its mouse messages do.
+#include "harness/dialogs.h"
+#include "harness/input.h"
+#include "harness/popup_menu.h"
+#include "harness/program_folder.h"
+#include "harness/recording_tray.h"
+#include "harness/tarvex.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace E2e;
+
+constexpr const char* kSettings = "[TARVEX]\nGenShowInTray=True\n";
+
+int VisibleDialogs(DWORD processId) {
+    int count = 0;
+    for (const WindowInfo& dialog : TopLevelWindows(kDialogClass, processId))
+        count += dialog.visible ? 1 : 0;
+    return count;
+}
+
+// The preferences are not part of this version: their one place says so in a box.
+void ExpectPreferencesNotice(const WindowInfo& box) {
+    EXPECT_EQ(box.title, "Tarvex Preferences");
+    EXPECT_NE(DialogText(box.hwnd).find("preferences window is not part of this version"), std::string::npos)
+        << DialogText(box.hwnd);
+}
+
+class TrayIcon : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(tray.ready());
+        ASSERT_TRUE(folder.ready());
+        folder.WriteSettings(kSettings);
+        ASSERT_TRUE(tarvex.Start(folder));
+        std::optional<WindowInfo> found = tarvex.WaitForMainForm();
+        ASSERT_TRUE(found);
+        form = found->hwnd;
+        ASSERT_TRUE(tray.WaitForCount(NIM_ADD, form, 1, 20s));
+    }
+
+    RecordingTray tray;
+    ProgramFolder folder;
+    Tarvex tarvex;
+    HWND form = nullptr;
+};
+
+} // namespace
+
+TEST_F(TrayIcon, IsAddedWithTheRecordThatRoutesItsClicksToTheMainForm) {
+    const TrayCall& add = tray.calls().front();
+    EXPECT_EQ(add.command, static_cast<DWORD>(NIM_ADD));
+    EXPECT_EQ(add.owner, form);
+    EXPECT_EQ(add.id, 1u);
+    EXPECT_EQ(add.flags, 7u);
+    EXPECT_EQ(add.callbackMessage, 512u);
+    EXPECT_EQ(add.tip, "Tarvex");
+}
+
+TEST_F(TrayIcon, RightButtonUpPopsUpTheMenuWithPreferencesAndExit) {
+    ASSERT_TRUE(tarvex.OpenTrayMenu());
+    ChooseMenuEntry('p');
+    std::optional<WindowInfo> notice = WaitForMessageBox(tarvex.processId());
+    ASSERT_TRUE(notice) << "the Preferences entry opened nothing";
+    ExpectPreferencesNotice(*notice);
+    ASSERT_TRUE(PressButton(notice->hwnd, "OK"));
+    ASSERT_TRUE(WaitForNoVisibleWindow(kDialogClass, tarvex.processId(), 10s));
+
+    ASSERT_TRUE(tarvex.OpenTrayMenu());
+    ChooseMenuEntry('x');
+    std::optional<WindowInfo> question = WaitForMessageBox(tarvex.processId());
+    ASSERT_TRUE(question) << "the exit entry asked nothing";
+    EXPECT_EQ(DialogText(question->hwnd), "This will shutdown Tarvex. Are you sure?");
+    ASSERT_TRUE(PressButton(question->hwnd, "No"));
+}
+
+TEST_F(TrayIcon, TheMenuClosesOnAClickElsewhere) {
+    std::optional<WindowInfo> menu = tarvex.OpenTrayMenu();
+    ASSERT_TRUE(menu);
+    // A spot of the desktop well away from the menu.
+    int x = (menu->rect.left + menu->rect.right) / 2 < 512 ? 900 : 100;
+    int y = (menu->rect.top + menu->rect.bottom) / 2 < 384 ? 600 : 150;
+    ClickDuringCapture(x, y);
+    EXPECT_TRUE(WaitForPopupMenuGone(tarvex.processId()));
+    EXPECT_TRUE(tarvex.running());
+    EXPECT_EQ(VisibleDialogs(tarvex.processId()), 0);
+}
+
+TEST_F(TrayIcon, ADoubleClickOpensThePreferencesButNotASecondTime) {
+    tarvex.SendTrayMessage(WM_LBUTTONDBLCLK);
+    std::optional<WindowInfo> notice = WaitForMessageBox(tarvex.processId());
+    ASSERT_TRUE(notice);
+    ExpectPreferencesNotice(*notice);
+
+    tarvex.SendTrayMessage(WM_LBUTTONDBLCLK);
+    Settle(1500ms);
+    EXPECT_EQ(VisibleDialogs(tarvex.processId()), 1) << "the preferences opened while they were open";
+
+    ASSERT_TRUE(PressButton(notice->hwnd, "OK"));
+    ASSERT_TRUE(WaitForNoVisibleWindow(kDialogClass, tarvex.processId(), 10s));
+    tarvex.SendTrayMessage(WM_LBUTTONDBLCLK);
+    std::optional<WindowInfo> again = WaitForMessageBox(tarvex.processId());
+    ASSERT_TRUE(again) << "closed preferences did not open again";
+    PressButton(again->hwnd, "OK");
+}
+
+TEST_F(TrayIcon, OtherMouseMessagesAreIgnored) {
+    for (UINT message : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN, WM_RBUTTONDBLCLK, WM_MBUTTONUP})
+        tarvex.SendTrayMessage(message);
+    Settle(1500ms);
+    EXPECT_TRUE(WaitForPopupMenuGone(tarvex.processId(), 0ms)) << "a menu popped up";
+    EXPECT_EQ(VisibleDialogs(tarvex.processId()), 0);
+}
+
+TEST_F(TrayIcon, ComesBackWhenTheShellRestarts) {
+    tray.AnnounceRestart();
+    EXPECT_TRUE(tray.WaitForCount(NIM_ADD, form, 2, 10s));
+    const TrayCall& again = tray.calls().back();
+    EXPECT_EQ(again.id, 1u);
+    EXPECT_EQ(again.tip, "Tarvex");
+}
+
+TEST(TrayIconSetting, NoIconWhenTheSettingIsOff) {
+    RecordingTray tray;
+    ASSERT_TRUE(tray.ready());
+    ProgramFolder folder;
+    ASSERT_TRUE(folder.ready());
+    folder.WriteSettings("[TARVEX]\nGenShowInTray=False\n");
+    Tarvex tarvex;
+    ASSERT_TRUE(tarvex.Start(folder));
+    ASSERT_TRUE(tarvex.WaitForMainForm());
+    // The menu answers once start-up is through, icon or not.
+    ASSERT_TRUE(tarvex.OpenTrayMenu());
+    PressKey(VK_ESCAPE);
+    ASSERT_TRUE(WaitForPopupMenuGone(tarvex.processId()));
+    EXPECT_EQ(tray.Count(NIM_ADD), 0);
+
+    ASSERT_TRUE(tarvex.ExitThroughTray());
+    EXPECT_EQ(tray.Count(NIM_DELETE), 0) << "exit removed an icon that was never added";
+}

@@ -1,0 +1,29 @@
+// Message boxes and other dialogs of the program under test (class "#32770"): their
+// title and text, and their buttons, pressed by caption or by id.
+#pragma once
+
+#include "harness/wait.h"
+#include "harness/windows.h"
+
+#include <windows.h>
+
+#include <optional>
+#include <string>
+
+namespace E2e {
+
+inline constexpr const char* kDialogClass = "#32770";
+
+std::optional<WindowInfo> WaitForMessageBox(DWORD processId, Duration timeout = 10s);
+
+// The texts of the dialog's static controls, joined by line breaks: for a message box,
+// its message.
+std::string DialogText(HWND dialog);
+
+// Presses the button whose caption, without its '&', is the given one ("Yes", "OK").
+// False when the dialog has no such button.
+bool PressButton(HWND dialog, const std::string& caption);
+// Presses the button with the id (IDYES, IDNO ...) as a click on it would.
+void PressButtonId(HWND dialog, int id);
+
+} // namespace E2e

@@ -1,0 +1,74 @@
+#include "harness/input.h"
+
+#include "harness/wait.h"
+
+namespace E2e {
+
+namespace {
+
+// A mouse event at a point, as a mouse driver reports it: the point in 0..65535 across
+// the primary screen, rounded up so that the system's rounding down lands on the pixel.
+void SendMouse(int x, int y, DWORD flags) {
+    int width = ::GetSystemMetrics(SM_CXSCREEN);
+    int height = ::GetSystemMetrics(SM_CYSCREEN);
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dx = static_cast<LONG>((static_cast<long long>(x) * 65536 + width - 1) / width);
+    input.mi.dy = static_cast<LONG>((static_cast<long long>(y) * 65536 + height - 1) / height);
+    input.mi.dwFlags = flags | MOUSEEVENTF_MOVE | MOUSEEVENTF_ABSOLUTE;
+    ::SendInput(1, &input, sizeof input);
+}
+
+bool CursorAt(int x, int y) {
+    POINT cursor{};
+    return ::GetCursorPos(&cursor) && cursor.x == x && cursor.y == y;
+}
+
+} // namespace
+
+// Wine can still be taking in the pointer's position of an X event from before the
+// move, which puts the cursor back; so the move is repeated until it stays.
+bool MoveMouse(int x, int y) {
+    constexpr int kAttempts = 20;
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        SendMouse(x, y, 0);
+        if (!WaitUntil([&] { return CursorAt(x, y); }, 250ms))
+            continue;
+        Settle(100ms);
+        if (CursorAt(x, y))
+            return true;
+    }
+    return false;
+}
+
+bool Click(int x, int y) {
+    if (!MoveMouse(x, y))
+        return false;
+    SendMouse(x, y, MOUSEEVENTF_LEFTDOWN);
+    Settle(50ms);
+    SendMouse(x, y, MOUSEEVENTF_LEFTUP);
+    return true;
+}
+
+void ClickDuringCapture(int x, int y) {
+    SendMouse(x, y, MOUSEEVENTF_LEFTDOWN);
+    Settle(50ms);
+    SendMouse(x, y, MOUSEEVENTF_LEFTUP);
+}
+
+bool ClickWindow(HWND hwnd) {
+    RECT rect{};
+    ::GetWindowRect(hwnd, &rect);
+    return Click((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
+}
+
+void PressKey(WORD virtualKey) {
+    INPUT keys[2]{};
+    keys[0].type = INPUT_KEYBOARD;
+    keys[0].ki.wVk = virtualKey;
+    keys[1] = keys[0];
+    keys[1].ki.dwFlags = KEYEVENTF_KEYUP;
+    ::SendInput(2, keys, sizeof keys[0]);
+}
+
+} // namespace E2e

@@ -1,0 +1,21 @@
+// The user's hands: mouse moves and clicks and key presses through SendInput, which
+// the program sees as real input because both share Wine's virtual desktop.
+#pragma once
+
+#include <windows.h>
+
+namespace E2e {
+
+// False when the cursor would not stay at the point.
+bool MoveMouse(int x, int y);
+bool Click(int x, int y);
+// A click whose button events carry the point themselves: while a popup menu of the
+// program tracks the mouse, Wine keeps the cursor where it is against moves from
+// another process, but the menu still sees where the click is.
+void ClickDuringCapture(int x, int y);
+// Clicks the middle of a window.
+bool ClickWindow(HWND hwnd);
+// Presses and releases one key.
+void PressKey(WORD virtualKey);
+
+} // namespace E2e

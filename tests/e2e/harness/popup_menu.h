@@ -1,0 +1,23 @@
+// Popup menus (class "#32768") of the program under test. Wine keeps a menu's items
+// inside the process that made it, so another process cannot read them; entries are
+// chosen as a user does with the keyboard, by their underlined letter.
+#pragma once
+
+#include "harness/wait.h"
+#include "harness/windows.h"
+
+#include <windows.h>
+
+#include <optional>
+
+namespace E2e {
+
+inline constexpr const char* kPopupMenuClass = "#32768";
+
+std::optional<WindowInfo> WaitForPopupMenu(DWORD processId, Duration timeout = 10s);
+bool WaitForPopupMenuGone(DWORD processId, Duration timeout = 10s);
+
+// Chooses the entry whose underlined letter (the one behind '&') is the given one.
+void ChooseMenuEntry(char mnemonic);
+
+} // namespace E2e

@@ -1,0 +1,48 @@
+// A program folder of the test's own in the temporary directory: tarvex2.exe and, when
+// the build has it, DefMenu.ini copied from beside the test program, plus whatever
+// files a test writes. Removed with its contents when the test is done.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace E2e {
+
+class TempFolder {
+public:
+    TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+    ~TempFolder();
+
+    const std::string& path() const { return path_; } // UTF-8, no trailing backslash
+    std::string File(std::string_view name) const;
+    bool Exists(std::string_view name) const;
+    bool IsFolder(std::string_view name) const;
+    std::string ReadBytes(std::string_view name) const;
+    void WriteBytes(std::string_view name, std::string_view bytes) const;
+
+private:
+    std::string path_;
+};
+
+class ProgramFolder : public TempFolder {
+public:
+    ProgramFolder();
+
+    // True when the program was copied in.
+    bool ready() const { return ready_; }
+    std::string ExePath() const { return File("tarvex2.exe"); }
+
+    // Writes Helmora.ini as the program writes its files: UTF-16LE with a byte-order
+    // mark. The lines are UTF-8, joined with CR LF.
+    void WriteSettings(std::string_view lines) const;
+
+private:
+    bool ready_ = false;
+};
+
+// The folder of the running test program, where the build puts tarvex2.exe as well.
+std::string TestProgramFolder();
+
+} // namespace E2e

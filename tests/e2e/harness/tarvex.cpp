@@ -1,0 +1,96 @@
+#include "harness/tarvex.h"
+
+#include "harness/dialogs.h"
+#include "harness/popup_menu.h"
+#include "win/text_convert.h"
+
+#include <gtest/gtest.h>
+
+namespace E2e {
+
+namespace {
+constexpr UINT kTrayIconId = 1;
+constexpr UINT kTrayCallbackMessage = WM_MOUSEMOVE;
+} // namespace
+
+Tarvex::~Tarvex() {
+    if (!running())
+        return;
+    if (ExitThroughTray())
+        return;
+    ADD_FAILURE() << "tarvex2.exe did not end through its own exit and is killed";
+    ::TerminateProcess(process_.get(), 1);
+    WaitForExit(10s);
+}
+
+bool Tarvex::Start(const ProgramFolder& folder, const std::string& arguments, const std::string& currentDirectory) {
+    std::wstring exe = Win::Widen(folder.ExePath());
+    std::wstring commandLine = L"\"" + exe + L"\"";
+    if (!arguments.empty())
+        commandLine += L" " + Win::Widen(arguments);
+    std::wstring directory = Win::Widen(currentDirectory.empty() ? folder.path() : currentDirectory);
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION info{};
+    if (!::CreateProcessW(exe.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, directory.c_str(),
+                          &startup, &info))
+        return false;
+    ::CloseHandle(info.hThread);
+    process_.reset(info.hProcess);
+    processId_ = info.dwProcessId;
+    mainForm_ = nullptr;
+    return true;
+}
+
+bool Tarvex::running() const {
+    return process_ && ::WaitForSingleObject(process_.get(), 0) == WAIT_TIMEOUT;
+}
+
+bool Tarvex::WaitForExit(Duration timeout) {
+    return process_ && WaitForProcess(process_.get(), timeout);
+}
+
+std::optional<DWORD> Tarvex::ExitCode() const {
+    DWORD code = 0;
+    if (!process_ || !::GetExitCodeProcess(process_.get(), &code) || code == STILL_ACTIVE)
+        return std::nullopt;
+    return code;
+}
+
+std::optional<WindowInfo> Tarvex::WaitForMainForm(Duration timeout) {
+    std::optional<WindowInfo> found;
+    WaitUntil(
+        [&] {
+            std::vector<WindowInfo> forms = TopLevelWindows(kMainFormClass, processId_);
+            if (!forms.empty())
+                found = forms.front();
+            return found.has_value() || !running();
+        },
+        timeout);
+    if (found)
+        mainForm_ = found->hwnd;
+    return found;
+}
+
+void Tarvex::SendTrayMessage(UINT mouseMessage) {
+    if (!mainForm_)
+        WaitForMainForm();
+    ::PostMessageW(mainForm_, kTrayCallbackMessage, kTrayIconId, mouseMessage);
+}
+
+std::optional<WindowInfo> Tarvex::OpenTrayMenu() {
+    SendTrayMessage(WM_RBUTTONUP);
+    return WaitForPopupMenu(processId_);
+}
+
+bool Tarvex::ExitThroughTray() {
+    if (!OpenTrayMenu())
+        return false;
+    ChooseMenuEntry('x');
+    std::optional<WindowInfo> question = WaitForMessageBox(processId_);
+    if (!question || !PressButton(question->hwnd, "Yes"))
+        return false;
+    return WaitForExit(20s);
+}
+
+} // namespace E2e
