@@ -38,6 +38,9 @@ if(EXISTS ${CMAKE_SOURCE_DIR}/resources/DefMenu.ini)
         COMMAND ${CMAKE_COMMAND} -E copy_if_different ${CMAKE_SOURCE_DIR}/resources/DefMenu.ini
                 $<TARGET_FILE_DIR:tarvex2>/DefMenu.ini)
 endif()
+add_custom_command(TARGET tarvex2 POST_BUILD
+    COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/resources/themes/Aurora
+            $<TARGET_FILE_DIR:tarvex2>/Themes/Aurora)
 
 find_package(GTest REQUIRED)
 include(GoogleTest)
@@ -49,3 +52,4 @@ endif()
 
 add_subdirectory(tests/win)
 add_subdirectory(tests/e2e)
+add_subdirectory(bench/win)

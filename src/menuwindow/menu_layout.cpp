@@ -98,7 +98,9 @@ MenuLayout LayOutMenu(const std::vector<ItemMeasure>& items, const LayoutOptions
         layout.buttons = row.surface;
         layout.ownColumns = row.ownColumns;
     } else {
-        layout.buttons = VerticalSurface(static_cast<int>(items.size()), lockedWidth, options, room, first);
+        bool titleAcross = options.shape.title == TitlePlace::Top || options.shape.title == TitlePlace::Bottom;
+        int width = titleAcross ? ClampedButtonWidth(std::max(widestNeed, options.titleWidth), metrics) : lockedWidth;
+        layout.buttons = VerticalSurface(static_cast<int>(items.size()), width, options, room, first);
     }
 
     int frame = FrameThickness(options);

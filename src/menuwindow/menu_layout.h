@@ -20,6 +20,7 @@ struct LayoutOptions {
     bool lockWidth = true; // HorzLockWidth
     int maxItems = 9999;   // MenuMaxNoItems
     bool twinScroll = false;
+    int titleWidth = 0; // the width the title's text asks for, its padding included
     bool operator==(const LayoutOptions&) const = default;
 };
 
@@ -47,7 +48,9 @@ struct MenuLayout {
 // buttons (the work area's height for a vertical menu, its width for a horizontal one);
 // first is the first visible offset wanted.
 //
-// A vertical menu's buttons all have the clamped width of the widest item. A horizontal
+// A vertical menu's buttons all have the clamped width of the widest item; with its title
+// bar at the top or the bottom, of the title's text when that is wider, so that a menu
+// of short items does not cut its own name. A horizontal
 // menu's buttons all have that width with HorzLockWidth; without it each is as wide as
 // its own item asks (clamped alike), as long as the whole row fits; a row that has to
 // scroll keeps one width for all, so that its slots stay put while it scrolls.

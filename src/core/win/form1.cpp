@@ -2,9 +2,13 @@
 
 #include "core/message_box.h"
 #include "core/win/subroutines.h"
+#include "desktop/hotspots.h"
+#include "desktop/win/hotspot_opening.h"
 #include "win/text_convert.h"
 
 #include <windowsx.h>
+
+#include <optional>
 
 namespace {
 
@@ -198,8 +202,12 @@ void Form1::EnableTimer1() {
     ::SetTimer(window_.get(), kTimer1, kTimer1Interval, nullptr);
 }
 
-// Turns a pending mouse event or a hot key into a hotspot and fires it; the hotspots issue fills it.
-void Form1::Timer1_Timer() {}
+// Turns a requested hotspot into its menu. Turning a pending mouse event or a hot key
+// into a hotspot comes with the hotspots issue.
+void Form1::Timer1_Timer() {
+    if (std::optional<int> hotspot = Hotspots::TakeRequestedHotspot(program_.RequestedHotspot))
+        HotspotOpening::OpenMenuOfHotspot(program_, *hotspot);
+}
 
 // Samples the mouse buttons and the screen edges and keeps the form parked; the hotspots issue fills it.
 void Form1::Timer3_Timer() {}

@@ -4,6 +4,8 @@
 #include "core/win/settings_store.h"
 #include "core/win/subroutines.h"
 #include "core/win/system_values.h"
+#include "desktop/win/hotspot_opening.h"
+#include "menus/win/startup_menus.h"
 #include "prefs/win/first_run_introduction.h"
 #include "win/text_convert.h"
 
@@ -86,13 +88,20 @@ void Form1::LoadSettings() {
     ProgramValues& values = program_.values;
     values.ShellFolders = SettingsStore::ReadProgramFolders(values.WindowsFolder, values.IsNT);
     SettingsStore::Load(SettingsFile(values), false, program_.settings);
+    HotspotOpening::EnsureDefaultHotspot(program_, SettingsFile(values));
 }
 
-// The menus issue fills this: it loads the menu file, or the default menus when it is missing.
-void Form1::LoadMenus() {}
+void Form1::LoadMenus() {
+    const ProgramValues& values = program_.values;
+    MenuStore::LoadMenusAtStartup(program_.menus, values.ProgramFolder, values.SystemFolder, values.ShellFolders,
+                                  program_.settings);
+}
 
-// The menu window issue fills this: no menu window open, no hotspot active, both lists empty.
-void Form1::ClearOpenMenus() {}
+// No menu window open and no hotspot waiting to be fired.
+void Form1::ClearOpenMenus() {
+    program_.openMenus.CloseAll();
+    program_.RequestedHotspot = -1;
+}
 
 void Form1::OpenPreferencesAtStart() {
     bool settingsFileExists = SystemValues::FileExists(SettingsFile(program_.values));
@@ -142,5 +151,6 @@ void Form1::OpenStartupHotspots() {
         OpenStartupHotspot(hotspot);
 }
 
-// The hotspots issue fills this: it makes the hotspot the current one and loads it (LoadHotspot).
-void Form1::OpenStartupHotspot(int) {}
+void Form1::OpenStartupHotspot(int hotspot) {
+    HotspotOpening::OpenMenuOfHotspot(program_, hotspot);
+}

@@ -5,9 +5,12 @@
 #include "core/exit_rules.h"
 #include "core/program_values.h"
 #include "core/settings.h"
+#include "menus/menu_records.h"
+#include "menuwindow/win/open_menus.h"
 
 #include <windows.h>
 
+#include <cstdint>
 #include <string>
 
 struct Program {
@@ -17,4 +20,8 @@ struct Program {
     ProgramValues values;
     SettingsRec settings;
     ExitRules::DesktopChanges desktopChanges;
+    MenuTable menus;     // the menus of the menu file
+    OpenMenus openMenus; // the cascade list: every open menu window and its record
+    // A hotspot that other parts ask to have fired on Timer1's next tick; -1 for none.
+    std::int16_t RequestedHotspot = -1;
 };

@@ -34,8 +34,9 @@ void ShowDesktopIcons(ExitRules::DesktopChanges&) {}
 // The task list and systray issue fills this: it unloads the systray copy.
 void UnloadSystray() {}
 
-// The menu window issue fills this: it closes every open menu window.
-void CloseMenuWindows() {}
+void CloseMenuWindows(Program& program) {
+    program.openMenus.CloseAll();
+}
 
 // The issues that bring further forms fill this: they unload them before the main form.
 void UnloadOtherForms() {}
@@ -59,7 +60,7 @@ void RunExitStep(Form1& form1, ExitRules::ExitStep step) {
         UnloadSystray();
         break;
     case ExitRules::ExitStep::CloseMenuWindows:
-        CloseMenuWindows();
+        CloseMenuWindows(form1.program());
         break;
     case ExitRules::ExitStep::UnloadForms:
         UnloadOtherForms();

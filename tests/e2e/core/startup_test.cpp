@@ -90,8 +90,10 @@ TEST(Startup, WithoutAutostartTheCurrentDirectoryIsTheProgramFolder) {
     ProgramFolder folder;
     ASSERT_TRUE(folder.ready());
     TempFolder current;
-    // The settings in the current directory, so that this is no first run.
+    // The settings and the menus in the current directory, so that this is no first run
+    // and no question about missing menus holds start-up up.
     current.WriteBytes("Helmora.ini", "[TARVEX]\r\nGenShowInTray=True\r\n");
+    current.WriteBytes("TvMenus.ini", "[MENUS]\r\n");
     Tarvex tarvex;
     ASSERT_TRUE(tarvex.Start(folder, "", current.path()));
     ASSERT_TRUE(tarvex.WaitForMainForm());

@@ -124,6 +124,7 @@ ProgramFolder::ProgramFolder() {
     ready_ = !path().empty() &&
              ::CopyFileW(Win::Widen(from + "\\tarvex2.exe").c_str(), Win::Widen(ExePath()).c_str(), FALSE);
     ::CopyFileW(Win::Widen(from + "\\DefMenu.ini").c_str(), Win::Widen(File("DefMenu.ini")).c_str(), FALSE);
+    WriteBytes("TvMenus.ini", "[MENUS]\r\n");
 }
 
 void ProgramFolder::WriteSettings(std::string_view lines) const {

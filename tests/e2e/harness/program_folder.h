@@ -1,6 +1,8 @@
 // A program folder of the test's own in the temporary directory: tarvex2.exe and, when
-// the build has it, DefMenu.ini copied from beside the test program, plus whatever
-// files a test writes. Removed with its contents when the test is done.
+// the build has it, DefMenu.ini copied from beside the test program, an empty menu file
+// (TvMenus.ini, as a program that has run before has one, so that start-up does not
+// offer the default menus), plus whatever files a test writes. Removed with its
+// contents when the test is done.
 #pragma once
 
 #include <string>

@@ -1,0 +1,43 @@
+#include "menus/win/menu_store.h"
+
+#include "core/message_box.h"
+#include "core/paths.h"
+#include "core/win/ini_handler.h"
+#include "menus/menu_file.h"
+#include "menus/win/profile_rewrite.h"
+
+namespace MenuStore {
+
+std::string MenuFilePath(std::string_view programFolder) {
+    return Paths::Join(programFolder, kMenuFileName);
+}
+
+bool LoadMenuFile(MenuTable& table, std::string_view path) {
+    const std::string file(path);
+    const MenuLoadResult result = DataManager::LoadMenuFile(
+        table, [&file](std::string_view section) { return IniHandler::ReadWholeSection(section, file); });
+    if (result.complete)
+        return true;
+    std::string text = "The menu file ";
+    text += file;
+    text += " could not be read to its end.\n";
+    text += result.error;
+    text += "\nThe menus read before that key are kept. The rest of the file was not read, and saving the menus "
+            "will leave it out.";
+    MessageBoxes::MsgBox(text, kWarningTitle, MessageBoxes::kExclamation);
+    return false;
+}
+
+bool SaveMenuFile(const MenuTable& table, std::string_view programFolder) {
+    const std::string file = MenuFilePath(programFolder);
+    const ProfileRewrite::Result result = ProfileRewrite::Rewrite(file, DataManager::SaveMenuFile(table));
+    if (result.saved)
+        return true;
+    std::string text = "The menus could not be saved.\n";
+    text += result.problem;
+    text += result.originalKept ? "\nThe menu file was left as it was." : "\nThe menu file is missing.";
+    MessageBoxes::MsgBox(text, kWarningTitle, MessageBoxes::kExclamation);
+    return false;
+}
+
+} // namespace MenuStore

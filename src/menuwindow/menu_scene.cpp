@@ -1,0 +1,51 @@
+#include "menuwindow/menu_scene.h"
+
+#include "menuwindow/title_buttons.h"
+
+#include <utility>
+
+namespace MenuWindow {
+
+MenuScene BuildScene(SceneRequest request, const TextMeasure& measure) {
+    MenuScene scene;
+    scene.look = std::move(request.look);
+    scene.list = std::move(request.list);
+    scene.title = std::move(request.title);
+    scene.horizontal = request.horizontal;
+    scene.inactive = request.inactive;
+    scene.dpi = request.dpi;
+    scene.pictures = std::move(request.pictures);
+    scene.options = LayoutOptionsOf(scene.look, scene.horizontal, scene.inactive, scene.dpi);
+    scene.measures = MeasureItems(scene.list, measure);
+    if (!scene.title.empty())
+        scene.options.titleWidth =
+            measure.Width(FontRole::Title, scene.title) + 2 * scene.options.metrics.titleTextPadding;
+    // The title-bar buttons stand beside the text, so the bar is made long enough for both.
+    const MenuMetrics& metrics = scene.options.metrics;
+    std::size_t buttons = PlaceTitleButtons(scene.look, scene.inactive, {0, 0, 1 << 16, metrics.titleThickness}, false,
+                                            metrics.titleButtonSize, metrics.titleButtonGap)
+                              .size();
+    scene.options.titleWidth += static_cast<int>(buttons) * (metrics.titleButtonSize + metrics.titleButtonGap);
+    int available = scene.horizontal ? request.workArea.Width() : request.workArea.Height();
+    scene.layout = LayOutMenu(scene.measures, scene.options, available, request.first);
+    return scene;
+}
+
+void ScrollTo(MenuScene& scene, int first) {
+    scene.layout.buttons.view = WithFirst(scene.layout.buttons.view, first);
+}
+
+Rect SlotInWindow(const MenuScene& scene, int position) {
+    Rect slot = ButtonRect(scene.layout.buttons, position);
+    const Rect& surface = scene.layout.surface;
+    return {slot.left + surface.left, slot.top + surface.top, slot.right + surface.left, slot.bottom + surface.top};
+}
+
+Rect ItemInWindow(const MenuScene& scene, int item) {
+    int position = item - scene.view().first;
+    if (!IsDrawn(scene.view(), position))
+        return {};
+    return SlotInWindow(scene, position);
+}
+
+} // namespace MenuWindow

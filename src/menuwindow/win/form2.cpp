@@ -1,0 +1,121 @@
+// Form2's window: its class, its procedure, and its life from creation to unloading.
+#include "menuwindow/win/form2.h"
+
+#include "core/win/system_values.h"
+#include "menuwindow/menu_look.h"
+#include "menuwindow/win/play_sound.h"
+#include "win/text_convert.h"
+
+namespace {
+
+// CS_DROPSHADOW gives the popup the system's soft shadow where the system draws one.
+bool RegisterMenuClass(HINSTANCE instance, WNDPROC proc) {
+    WNDCLASSEXW wc{};
+    wc.cbSize = sizeof wc;
+    wc.style = CS_DROPSHADOW;
+    wc.lpfnWndProc = proc;
+    wc.hInstance = instance;
+    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    wc.lpszClassName = Form2::kClassName;
+    return ::RegisterClassExW(&wc) || ::GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
+}
+
+} // namespace
+
+Form2::Form2(const SettingsRec& settings, const MenuTable& menus, OpenMenus& openMenus, int id)
+    : settings_(settings), menus_(menus), openMenus_(openMenus), id_(id) {}
+
+Form2::~Form2() {
+    Form_Unload();
+}
+
+bool Form2::Create() {
+    HINSTANCE instance = ::GetModuleHandleW(nullptr);
+    if (!RegisterMenuClass(instance, WindowProc))
+        return false;
+    // A tool window never gets a taskbar button; the menu has no border or caption of
+    // the system's, it paints all of itself.
+    DWORD exStyle = WS_EX_TOOLWINDOW | (openMenus_.forceOnTop ? WS_EX_TOPMOST : 0);
+    HWND hwnd = ::CreateWindowExW(exStyle, kClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, instance, this);
+    if (!hwnd)
+        return false;
+    SetLocalVariables();
+    PaintMenu();
+    return true;
+}
+
+void Form2::Show() {
+    HWND hwnd = window_.get();
+    ::ShowWindow(hwnd, SW_SHOW);
+    ::SetForegroundWindow(hwnd);
+    ::UpdateWindow(hwnd);
+    PlayOpenMenuSound();
+}
+
+// A hotspot's menu plays the hotspot's sound; the hotspot index is -1 for a sub-menu.
+void Form2::PlayOpenMenuSound() {
+    const MenuWindow::CascadeRec& record = Record();
+    std::string_view hotspotSound;
+    if (record.openedByHotspot && record.hotspot >= 0 &&
+        static_cast<std::size_t>(record.hotspot) < settings_.HotSpots.size())
+        hotspotSound = settings_.HotSpots[static_cast<std::size_t>(record.hotspot)].SoundPath;
+    std::string_view menuSound;
+    if (record.kind == kItemMenuName && record.menuNumber >= 1 && record.menuNumber <= menus_.MenuCount())
+        menuSound = menus_.menus[static_cast<std::size_t>(record.menuNumber - 1)].SOUNDPATH;
+    std::string programFolder = SystemValues::ExecutableFolder();
+    MenuWindow::SoundConditions conditions{MenuWindow::WaveDeviceAvailable(), settings_.GenSoundsOn, programFolder};
+    MenuWindow::PlaySoundFile(MenuWindow::OpenMenuSoundFile(settings_.SoundFx, hotspotSound, menuSound), conditions);
+}
+
+void Form2::SetLocalVariables() {
+    look_ = MenuWindow::LookFromSettings(settings_);
+}
+
+MenuWindow::CascadeRec& Form2::Record() {
+    return *openMenus_.records().Find(id_);
+}
+
+void Form2::Form_Unload() {
+    DestroyIconHandles();
+}
+
+void Form2::DestroyIconHandles() {
+    icons_.Clear();
+}
+
+LRESULT CALLBACK Form2::WindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (message == WM_NCCREATE) {
+        auto* form = static_cast<Form2*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
+        form->window_.reset(hwnd);
+        ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
+    }
+    auto* form = reinterpret_cast<Form2*>(::GetWindowLongPtrW(hwnd, GWLP_USERDATA));
+    if (!form)
+        return ::DefWindowProcW(hwnd, message, wParam, lParam);
+    if (message == WM_NCDESTROY) {
+        ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
+        form->window_.release();
+        return ::DefWindowProcW(hwnd, message, wParam, lParam);
+    }
+    return form->HandleMessage(message, wParam, lParam);
+}
+
+LRESULT Form2::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+    HWND hwnd = window_.get();
+    switch (message) {
+    case WM_PAINT:
+        Picture2_Paint();
+        return 0;
+    case WM_PRINTCLIENT:
+        Form_PrintClient(reinterpret_cast<HDC>(wParam));
+        return 0;
+    case WM_ERASEBKGND:
+        return 1; // the picture covers every pixel; erasing first would only flicker
+    case WM_CLOSE:
+        // A menu window closes through the open menus (OpenMenus::Close), which removes
+        // its record with it; going by itself would leave the record behind.
+        return 0;
+    default:
+        return ::DefWindowProcW(hwnd, message, wParam, lParam);
+    }
+}

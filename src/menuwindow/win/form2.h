@@ -1,0 +1,109 @@
+// Form2, the menu window: one object, and one borderless popup window, per open menu.
+// It is created hidden, takes its copy of the settings (SetLocalVariables), builds its
+// display list, measures, places and paints itself (PaintMenu) and is then shown. All
+// painting goes into an off-screen picture that WM_PAINT copies to the screen.
+#pragma once
+
+#include "core/settings.h"
+#include "menus/menu_records.h"
+#include "menuwindow/cascade.h"
+#include "menuwindow/menu_look.h"
+#include "menuwindow/menu_scene.h"
+#include "menuwindow/repaint.h"
+#include "menuwindow/win/back_buffer.h"
+#include "menuwindow/win/item_icons.h"
+#include "menuwindow/win/menu_fonts.h"
+#include "menuwindow/win/open_menus.h"
+#include "menuwindow/win/theme_pictures.h"
+#include "win/handles.h"
+
+#include <windows.h>
+
+#include <vector>
+
+class Form2 {
+public:
+    static constexpr const wchar_t* kClassName = L"Tarvex2Menu";
+
+    // The window of the cascade record with identifier id; settings and menus are the
+    // program's, read when the window takes its settings and builds its list.
+    Form2(const SettingsRec& settings, const MenuTable& menus, OpenMenus& openMenus, int id);
+    ~Form2();
+    Form2(const Form2&) = delete;
+    Form2& operator=(const Form2&) = delete;
+
+    // Creates the window hidden, takes the settings, paints and places it. False when
+    // the window could not be made.
+    bool Create();
+    // Shows the window and brings it to the front.
+    void Show();
+
+    void SetLocalVariables();
+    // Builds the display list, measures, places and paints the whole window.
+    void PaintMenu();
+
+    // Paints an item's button, selected (with the selection bar) or normal.
+    void DrawButton(int item, bool selected);
+    void DrawButton(int item, MenuWindow::ButtonState state);
+    // Repaints an item's button in the state the selection gives it: always, or only when
+    // that state differs from the one it was last painted in.
+    void ForceRedrawButton(int item);
+    void RedrawButton(int item);
+    void DrawScrollButton();
+    // Scrolls the menu, when the item lies outside the visible run, so that it shows,
+    // and selects it.
+    void MakeButtonVisible(int item);
+    // Lets the items' icons go.
+    void DestroyIconHandles();
+
+    // Moves the selection (and press); only the buttons whose state changed are repainted.
+    void SetSelection(const MenuWindow::SelectionState& selection);
+    // The inactive look of a parent whose sub-menu is open; repaints the window.
+    void SetInactive(bool inactive);
+    // Rolled up, only the title bar shows.
+    void SetRolledUp(bool rolledUp);
+
+    HWND hwnd() const { return window_.get(); }
+    int id() const { return id_; }
+    const MenuWindow::MenuScene& scene() const { return scene_; }
+    const MenuWindow::SelectionState& selection() const { return selection_; }
+    // How many buttons were painted one by one since the window was made (a full paint
+    // does not count); it shows that a change of selection repaints only what changed.
+    int ButtonsDrawn() const { return buttonsDrawn_; }
+    int IconsHeld() const { return icons_.Held(); }
+
+private:
+    static LRESULT CALLBACK WindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+    void Picture2_Paint();
+    void Form_PrintClient(HDC dc);
+    void Form_Unload();
+    void PlayOpenMenuSound();
+
+    MenuWindow::CascadeRec& Record();
+    MenuWindow::DisplayList BuildItemList();
+    void Place();
+    void PaintSurface();
+    void ApplyOutline();
+    void Render(const MenuWindow::DrawList& list);
+    void Invalidate(const MenuWindow::Rect& area);
+
+    const SettingsRec& settings_;
+    const MenuTable& menus_;
+    OpenMenus& openMenus_;
+    int id_;
+    MenuWindow::MenuLook look_;
+    MenuWindow::MenuScene scene_;
+    MenuWindow::MenuFonts fonts_;
+    MenuWindow::ItemIcons icons_;
+    MenuWindow::ThemePictures pictures_;
+    MenuWindow::BackBuffer picture_;
+    MenuWindow::SelectionState selection_;
+    std::vector<MenuWindow::ButtonState> drawn_; // the state each item was last painted in, by item
+    bool inactive_ = false;
+    bool rolledUp_ = false;
+    int buttonsDrawn_ = 0;
+    // Declared last, so it goes first: the window's last messages still find the whole object.
+    Win::UniqueWindow window_;
+};

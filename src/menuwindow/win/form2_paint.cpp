@@ -1,0 +1,159 @@
+// Form2's painting: the whole window (PaintMenu), single buttons as the selection
+// moves, the scroll buttons, and copying the off-screen picture to the screen.
+#include "menuwindow/win/form2.h"
+
+#include "menuwindow/menu_position.h"
+#include "core/win/system_values.h"
+#include "menuwindow/outline.h"
+#include "menuwindow/paint_button.h"
+#include "menuwindow/paint_menu.h"
+#include "menuwindow/pictures.h"
+#include "menuwindow/win/draw_list_renderer.h"
+#include "menuwindow/win/screen_area.h"
+#include "win/text_convert.h"
+
+using namespace MenuWindow;
+
+void Form2::PaintMenu() {
+    CascadeRec& record = Record();
+    int dpi = ScreenDpi();
+    Rect workArea = WorkAreaAt(OpeningPoint(record));
+    fonts_.Build(look_, dpi);
+    SceneRequest request;
+    request.look = look_;
+    request.list = BuildItemList();
+    request.title = MenuTitle(record, menus_);
+    request.horizontal = record.horizontal;
+    request.inactive = inactive_;
+    request.dpi = dpi;
+    request.workArea = workArea;
+    request.first = record.firstVisible;
+    pictures_.List(PictureFolderPath(look_.BitmapsFolder, SystemValues::ExecutableFolder()));
+    request.pictures = pictures_.Names();
+    scene_ = BuildScene(std::move(request), fonts_);
+    record.firstVisible = scene_.view().first;
+    icons_.Reset(scene_.list.Count(), scene_.metrics().iconSize);
+
+    ::SetWindowTextW(window_.get(), Win::Widen(scene_.title).c_str());
+    Placement placement = PlaceMenu(record, scene_, workArea);
+    record.bounds = RectAt(placement.topLeft, scene_.layout.window);
+    record.towardsStart = placement.towardsStart;
+    Place();
+
+    picture_.Resize(scene_.layout.window);
+    Render(MenuOps(scene_, selection_, fonts_));
+    drawn_.assign(static_cast<std::size_t>(scene_.list.Count()) + 1, ButtonState::Normal);
+    for (int item = 1; item <= scene_.list.Count(); ++item)
+        drawn_[static_cast<std::size_t>(item)] = StateOf(item, selection_, look_.SelBar);
+    ApplyOutline();
+    Invalidate({0, 0, scene_.layout.window.width, scene_.layout.window.height});
+}
+
+void Form2::Place() {
+    const Rect& bounds = Record().bounds;
+    ::SetWindowPos(window_.get(), nullptr, bounds.left, bounds.top, bounds.Width(), bounds.Height(),
+                   SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void Form2::PaintSurface() {
+    Render(SurfaceOps(scene_, selection_, fonts_));
+    for (int item = 1; item <= scene_.list.Count(); ++item)
+        drawn_[static_cast<std::size_t>(item)] = StateOf(item, selection_, look_.SelBar);
+    Invalidate(scene_.layout.surface);
+}
+
+void Form2::DrawButton(int item, bool selected) {
+    DrawButton(item, selected ? ButtonState::Selected : ButtonState::Normal);
+}
+
+void Form2::DrawButton(int item, ButtonState state) {
+    Rect button = ItemInWindow(scene_, item);
+    if (button.Empty())
+        return;
+    Render(ButtonOps(scene_, item, state, fonts_));
+    drawn_[static_cast<std::size_t>(item)] = state;
+    ++buttonsDrawn_;
+    Invalidate(button);
+}
+
+void Form2::ForceRedrawButton(int item) {
+    DrawButton(item, StateOf(item, selection_, look_.SelBar));
+}
+
+void Form2::RedrawButton(int item) {
+    if (item < 1 || item > scene_.list.Count())
+        return;
+    ButtonState wanted = StateOf(item, selection_, look_.SelBar);
+    if (drawn_[static_cast<std::size_t>(item)] != wanted)
+        DrawButton(item, wanted);
+}
+
+void Form2::SetSelection(const SelectionState& selection) {
+    std::vector<int> changed = ButtonsToRepaint(selection_, selection, look_.SelBar, scene_.view());
+    selection_ = selection;
+    for (int item : changed)
+        DrawButton(item, StateOf(item, selection_, look_.SelBar));
+}
+
+void Form2::DrawScrollButton() {
+    Render(ScrollButtonOps(scene_));
+    Invalidate(scene_.layout.surface);
+}
+
+void Form2::MakeButtonVisible(int item) {
+    int first = FirstToShow(scene_.view(), item);
+    if (first != scene_.view().first) {
+        ScrollTo(scene_, first);
+        Record().firstVisible = scene_.view().first;
+        PaintSurface();
+    }
+    SetSelection({item, false});
+}
+
+void Form2::SetInactive(bool inactive) {
+    inactive_ = inactive;
+    PaintMenu();
+}
+
+void Form2::SetRolledUp(bool rolledUp) {
+    rolledUp_ = rolledUp;
+    ApplyOutline();
+}
+
+// The system takes the region over once it is set; a region that was not taken is ours
+// to delete.
+void Form2::ApplyOutline() {
+    std::optional<Rect> outline = WindowOutline(scene_.layout, rolledUp_);
+    if (!outline) {
+        ::SetWindowRgn(window_.get(), nullptr, TRUE);
+        return;
+    }
+    Win::UniqueRegion region(::CreateRectRgn(outline->left, outline->top, outline->right, outline->bottom));
+    if (region && ::SetWindowRgn(window_.get(), region.get(), TRUE))
+        region.release();
+}
+
+void Form2::Render(const DrawList& list) {
+    const DisplayList& items = scene_.list;
+    MenuWindow::Render(
+        picture_.dc(), list, fonts_,
+        [this, &items](int item) {
+            return item >= 1 && item <= items.Count() ? icons_.Get(item, items.Item(item)) : nullptr;
+        },
+        [this](HDC dc, const PictureOp& op) { pictures_.Draw(dc, op); });
+}
+
+void Form2::Invalidate(const Rect& area) {
+    RECT rect{area.left, area.top, area.right, area.bottom};
+    ::InvalidateRect(window_.get(), &rect, FALSE);
+}
+
+void Form2::Picture2_Paint() {
+    Win::PaintDc paint(window_.get());
+    picture_.CopyTo(paint.get(), paint.area());
+}
+
+void Form2::Form_PrintClient(HDC dc) {
+    Size size = picture_.size();
+    picture_.CopyTo(dc, {0, 0, size.width, size.height});
+}

@@ -1,0 +1,42 @@
+#include "menuwindow/win/open_menus.h"
+
+#include "menuwindow/win/form2.h"
+
+OpenMenus::OpenMenus() = default;
+
+OpenMenus::~OpenMenus() {
+    CloseAll();
+}
+
+int OpenMenus::Append() {
+    return records_.Append();
+}
+
+void OpenMenus::Attach(int index, std::unique_ptr<Form2> window) {
+    if (index < 1 || index > records_.Count())
+        return;
+    windows_[records_.At(index).id] = std::move(window);
+}
+
+Form2* OpenMenus::WindowOf(int id) const {
+    auto found = windows_.find(id);
+    return found == windows_.end() ? nullptr : found->second.get();
+}
+
+void OpenMenus::Close(int index) {
+    if (index < 1 || index > records_.Count())
+        return;
+    int id = records_.At(index).id;
+    // The window goes before its record: while it unloads it may still read the record.
+    if (auto found = windows_.find(id); found != windows_.end()) {
+        std::unique_ptr<Form2> window = std::move(found->second);
+        windows_.erase(found);
+        window.reset();
+    }
+    records_.Remove(records_.IndexOf(id));
+}
+
+void OpenMenus::CloseAll() {
+    while (records_.Count() > 0)
+        Close(records_.Count());
+}

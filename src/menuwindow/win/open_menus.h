@@ -1,0 +1,43 @@
+// The open menu windows: the cascade list's records and, beside them, the window object
+// of each record, through which other windows and the hotspots call it.
+#pragma once
+
+#include "menuwindow/cascade.h"
+
+#include <map>
+#include <memory>
+
+class Form2;
+
+class OpenMenus {
+public:
+    OpenMenus();
+    ~OpenMenus();
+    OpenMenus(const OpenMenus&) = delete;
+    OpenMenus& operator=(const OpenMenus&) = delete;
+
+    MenuWindow::CascadeList& records() { return records_; }
+    const MenuWindow::CascadeList& records() const { return records_; }
+    int Count() const { return records_.Count(); }
+
+    // Appends a record with a fresh identifier and no window yet; returns its index.
+    int Append();
+
+    // Gives the record at an index its window object.
+    void Attach(int index, std::unique_ptr<Form2> window);
+
+    // The window of the record with an identifier; null when there is none.
+    Form2* WindowOf(int id) const;
+
+    // Unloads the window of the record at an index and removes the record; the later
+    // records move down one place.
+    void Close(int index);
+    void CloseAll();
+
+    // ForceOnTop of the hotspot that opened the latest menu: its window is kept topmost.
+    bool forceOnTop = false;
+
+private:
+    MenuWindow::CascadeList records_;
+    std::map<int, std::unique_ptr<Form2>> windows_;
+};

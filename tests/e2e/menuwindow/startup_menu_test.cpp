@@ -1,0 +1,269 @@
+// Menus that open when the program starts: a start-up hotspot of type Show Menu or Show
+// Folder opens its menu window, placed and painted as the settings say. Each test saves
+// a screenshot of the look it checks in the screenshot folder.
+#include "harness/failure_screenshots.h"
+#include "harness/program_folder.h"
+#include "harness/screen.h"
+#include "harness/tarvex.h"
+#include "harness/windows.h"
+#include "menuwindow/gradient.h"
+#include "win/text_convert.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace E2e;
+
+constexpr const char* kMenuClass = "Tarvex2Menu";
+constexpr COLORREF kTitleColour = 0x00803010; // 0x00BBGGRR
+constexpr COLORREF kTitleTextColour = 0x0000E0FF;
+constexpr COLORREF kButtonColour = 0x00F0E8E0;
+constexpr COLORREF kButtonTextColour = 0x00302010;
+constexpr int kTitleHeight = 26;
+constexpr int kButtonHeight = 22;
+constexpr int kMenuLeft = 240;
+constexpr int kMenuTop = 130;
+
+std::string Number(long long value) {
+    return std::to_string(value);
+}
+
+// The settings of one start-up hotspot (index 0) and a plain look: solid colours, flat
+// parts, no frame. extra holds further lines, which come first and so win over these: a
+// key takes the value of its first line.
+std::string Settings(const std::string& hotspot, const std::string& extra) {
+    std::string text = "[TARVEX]\n" + extra;
+    text += "GenShowInTray=False\n";
+    text += "NoOfHotSpots=0\n";
+    text += "GenStartupHotspot0=0\n";
+    text += "HotSpot0x1=48\nHotSpot0x2=1024\nHotSpot0y1=0\nHotSpot0y2=768\n";
+    text += "HotSpot0App=Desktop\nHotSpot0GroupName=Default\n";
+    text += "HotSpot0Menuleft=" + Number(kMenuLeft) + "\nHotSpot0Menutop=" + Number(kMenuTop) + "\n";
+    text += hotspot;
+    text += "TitleColor=" + Number(kTitleColour) + "\nTitleFontColor=" + Number(kTitleTextColour) + "\n";
+    text += "TitleGradient=False\nTitleFlat=True\nTitleOverlap=False\nTitleVSize=" + Number(kTitleHeight) + "\n";
+    text += "ButtonColor=" + Number(kButtonColour) + "\nButtonFontColor=" + Number(kButtonTextColour) + "\n";
+    text += "ButtonGradient=False\nButtonFlat=1\nButtonVSize=" + Number(kButtonHeight) + "\n";
+    text += "MenuNoFrames=1\nTwinScrollButtons=False\n";
+    return text;
+}
+
+std::string ShowMenu(const std::string& name) {
+    return "HotSpot0Type=1\nHotSpot0Menupath1=" + name + "\n";
+}
+
+// A menu file with one menu of the labels.
+std::string MenuFile(const std::string& name, const std::vector<std::string>& labels) {
+    std::string text = "[MENUS]\r\nNAME-1=" + name + "\r\n\r\n[MENU-1]\r\n";
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        text += "LABEL-" + Number(static_cast<long long>(i)) + "=" + labels[i] + "\r\n";
+        text += "TYPE-" + Number(static_cast<long long>(i)) + "=0\r\n";
+        text += "PATH-" + Number(static_cast<long long>(i)) + "=notepad.exe\r\n";
+    }
+    return text;
+}
+
+const std::vector<std::string> kLabels = {"Text Editor", "Calculator", "Paint", "Mail", "Web Browser"};
+
+class StartupMenu : public ::testing::Test {
+protected:
+    // Writes the files, starts the program and waits for its menu window.
+    std::optional<WindowInfo> Start(const std::string& settings, const std::string& menuFile) {
+        if (!folder_.ready())
+            return std::nullopt;
+        folder_.WriteSettings(settings);
+        folder_.WriteBytes("TvMenus.ini", menuFile);
+        if (!tarvex_.Start(folder_))
+            return std::nullopt;
+        std::optional<WindowInfo> menu = WaitForVisibleWindow(kMenuClass, tarvex_.processId(), 30s);
+        if (menu)
+            Settle(300ms); // let the window finish its first paint
+        return menu;
+    }
+
+    // Saves the screen as "menuwindow-<name>.bmp" in the screenshot folder.
+    void Screenshot(const std::string& name) {
+        std::string screenshots = ScreenshotFolder();
+        ::CreateDirectoryW(Win::Widen(screenshots).c_str(), nullptr);
+        EXPECT_TRUE(SaveScreenshot(screenshots + "\\menuwindow-" + name + ".bmp"));
+    }
+
+    ProgramFolder folder_;
+    Tarvex tarvex_;
+};
+
+COLORREF At(const RECT& window, int x, int y) {
+    return ReadPixel(window.left + x, window.top + y);
+}
+
+int Width(const RECT& r) {
+    return r.right - r.left;
+}
+
+int Height(const RECT& r) {
+    return r.bottom - r.top;
+}
+
+// How many pixels of a part of the window have the colour.
+int CountOf(const RECT& window, RECT part, COLORREF colour) {
+    int count = 0;
+    for (int y = part.top; y < part.bottom; ++y)
+        for (int x = part.left; x < part.right; ++x)
+            count += At(window, x, y) == colour ? 1 : 0;
+    return count;
+}
+
+} // namespace
+
+TEST_F(StartupMenu, AShowMenuHotspotOpensItsMenuAtItsPlaceInItsColours) {
+    std::optional<WindowInfo> menu = Start(Settings(ShowMenu("Programs"), ""), MenuFile("Programs", kLabels));
+    ASSERT_TRUE(menu) << "no menu window opened at start";
+    Screenshot("title-top");
+    const RECT& r = menu->rect;
+    EXPECT_EQ(r.left, kMenuLeft);
+    EXPECT_EQ(r.top, kMenuTop);
+    EXPECT_EQ(Height(r), kTitleHeight + 5 * kButtonHeight);
+    EXPECT_EQ(menu->title, "Programs");
+    EXPECT_EQ(At(r, 1, 1), kTitleColour);
+    EXPECT_EQ(At(r, Width(r) - 2, kTitleHeight - 2), kTitleColour);
+    EXPECT_GT(CountOf(r, {0, 0, Width(r), kTitleHeight}, kTitleTextColour), 0) << "the name is on the title bar";
+    for (int button = 0; button < 5; ++button) {
+        int middle = kTitleHeight + button * kButtonHeight + kButtonHeight / 2;
+        EXPECT_EQ(At(r, Width(r) - 3, middle), kButtonColour) << "button " << button;
+        RECT row{0, middle - kButtonHeight / 2, Width(r), middle + kButtonHeight / 2};
+        EXPECT_GT(CountOf(r, row, kButtonTextColour), 0) << "button " << button << " shows its label";
+    }
+    EXPECT_FALSE(::GetWindowLongPtrW(menu->hwnd, GWL_EXSTYLE) & WS_EX_APPWINDOW);
+    EXPECT_TRUE(::GetWindowLongPtrW(menu->hwnd, GWL_EXSTYLE) & WS_EX_TOOLWINDOW) << "it would get a taskbar button";
+}
+
+TEST_F(StartupMenu, AGradientTitlesFirstAndLastBandsHaveTheComputedColours) {
+    constexpr COLORREF kFrom = 0x00400000;
+    constexpr COLORREF kTo = 0x00FFC060;
+    std::string look = "TitleColor=" + Number(kFrom) + "\nTitleGradient=True\nTitleColor2=" + Number(kTo) +
+                       "\nTitleGradientType=0\nTitleAlignment=1\n";
+    std::string settings = Settings(ShowMenu("Programs"), look);
+    std::optional<WindowInfo> menu = Start(settings, MenuFile("Programs", kLabels));
+    ASSERT_TRUE(menu);
+    Screenshot("title-gradient");
+    const RECT& r = menu->rect;
+    std::vector<MenuWindow::ColourBand> bands =
+        MenuWindow::GradientBands({Width(r), kTitleHeight}, {static_cast<MenuWindow::Colour>(kFrom),
+                                                             static_cast<MenuWindow::Colour>(kTo), 0, false});
+    ASSERT_GE(bands.size(), 2u);
+    EXPECT_EQ(At(r, bands.front().rect.left, 1), static_cast<COLORREF>(bands.front().colour));
+    EXPECT_EQ(At(r, bands.back().rect.right - 1, kTitleHeight - 2), static_cast<COLORREF>(bands.back().colour));
+    EXPECT_NE(bands.front().colour, bands.back().colour);
+}
+
+TEST_F(StartupMenu, TheTitleAtTheBottom) {
+    std::optional<WindowInfo> menu =
+        Start(Settings(ShowMenu("Programs"), "TitlePosition=1\n"), MenuFile("Programs", kLabels));
+    ASSERT_TRUE(menu);
+    Screenshot("title-bottom");
+    const RECT& r = menu->rect;
+    EXPECT_EQ(menu->title, "Programs");
+    EXPECT_EQ(At(r, 1, Height(r) - 2), kTitleColour);
+    EXPECT_EQ(At(r, 1, Height(r) - kTitleHeight + 1), kTitleColour);
+    EXPECT_EQ(At(r, Width(r) - 3, kButtonHeight / 2), kButtonColour) << "the first button at the top";
+    EXPECT_GT(CountOf(r, {0, Height(r) - kTitleHeight, Width(r), Height(r)}, kTitleTextColour), 0);
+}
+
+TEST_F(StartupMenu, TheTitleAtTheLeftReadsUpwards) {
+    std::optional<WindowInfo> menu =
+        Start(Settings(ShowMenu("Programs"), "TitlePosition=2\n"), MenuFile("Programs", kLabels));
+    ASSERT_TRUE(menu);
+    Screenshot("title-left");
+    const RECT& r = menu->rect;
+    EXPECT_EQ(Height(r), 5 * kButtonHeight);
+    EXPECT_EQ(At(r, 1, 1), kTitleColour);
+    EXPECT_EQ(At(r, kTitleHeight - 2, Height(r) - 2), kTitleColour);
+    EXPECT_EQ(At(r, Width(r) - 3, kButtonHeight / 2), kButtonColour);
+    // The turned name: a column of text taller than it is wide.
+    int top = Height(r), bottom = -1, left = kTitleHeight, right = -1;
+    for (int y = 0; y < Height(r); ++y)
+        for (int x = 0; x < kTitleHeight; ++x)
+            if (At(r, x, y) == kTitleTextColour) {
+                top = std::min(top, y);
+                bottom = std::max(bottom, y);
+                left = std::min(left, x);
+                right = std::max(right, x);
+            }
+    ASSERT_GE(bottom, 0) << "no title text";
+    EXPECT_GT(bottom - top, 2 * (right - left));
+}
+
+TEST_F(StartupMenu, AHorizontalMenuStandsItsButtonsInARow) {
+    std::string hotspot = ShowMenu("Programs") + "HotSpot0Horizontal=True\n";
+    std::optional<WindowInfo> menu =
+        Start(Settings(hotspot, "HorzNoTitlebar=False\nMenuHorizontalStyle=1\n"), MenuFile("Programs", kLabels));
+    ASSERT_TRUE(menu);
+    Screenshot("horizontal");
+    const RECT& r = menu->rect;
+    EXPECT_EQ(Height(r), kButtonHeight);
+    EXPECT_GT(Width(r), 5 * 40);
+    EXPECT_EQ(At(r, 1, 1), kTitleColour) << "the turned title at the row's left end";
+    EXPECT_EQ(At(r, Width(r) - 3, 2), kButtonColour);
+    EXPECT_GT(CountOf(r, {Width(r) - Width(r) / 6, 0, Width(r), Height(r)}, kButtonTextColour), 0)
+        << "the last button shows its label";
+}
+
+TEST_F(StartupMenu, AMenuLongerThanTheScreenEndsInAScrollButton) {
+    std::vector<std::string> labels;
+    for (int i = 1; i <= 60; ++i)
+        labels.push_back("Program " + Number(i));
+    std::optional<WindowInfo> menu = Start(Settings(ShowMenu("Programs"), ""), MenuFile("Programs", labels));
+    ASSERT_TRUE(menu);
+    Screenshot("scroll");
+    const RECT& r = menu->rect;
+    RECT work{};
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    EXPECT_LE(Height(r), Height(work)) << "it fits on the screen";
+    EXPECT_GE(r.top, work.top);
+    EXPECT_LE(r.bottom, work.bottom);
+    int slots = (Height(r) - kTitleHeight) / kButtonHeight;
+    ASSERT_LT(slots, 60);
+    RECT last{0, kTitleHeight + (slots - 1) * kButtonHeight, Width(r), kTitleHeight + slots * kButtonHeight};
+    int middle = Width(r) / 2;
+    EXPECT_GT(CountOf(r, {middle - 6, last.top, middle + 7, last.bottom}, kButtonColour), 0);
+    EXPECT_LT(CountOf(r, {middle - 6, last.top, middle + 7, last.bottom}, kButtonColour), 13 * kButtonHeight)
+        << "the arrow of the scroll button";
+    EXPECT_EQ(CountOf(r, {0, last.top, middle - 10, last.bottom}, kButtonTextColour), 0)
+        << "no button's label behind the scroll button";
+    RECT before{0, last.top - kButtonHeight, Width(r), last.top};
+    EXPECT_GT(CountOf(r, before, kButtonTextColour), 0) << "the slot before it is a button";
+}
+
+TEST_F(StartupMenu, AFolderHotspotListsAnEmptyFolderAsEmpty) {
+    ASSERT_TRUE(folder_.ready());
+    std::string empty = folder_.File("Nothing Here");
+    ASSERT_TRUE(::CreateDirectoryW(Win::Widen(empty).c_str(), nullptr));
+    std::string hotspot = "HotSpot0Type=0\nHotSpot0Menupath1=" + empty + "\n";
+    std::optional<WindowInfo> menu = Start(Settings(hotspot, ""), MenuFile("Programs", kLabels));
+    ASSERT_TRUE(menu);
+    Screenshot("folder-empty");
+    const RECT& r = menu->rect;
+    EXPECT_EQ(menu->title, "Nothing Here");
+    EXPECT_EQ(Height(r), kTitleHeight + kButtonHeight) << "one entry";
+    EXPECT_GT(CountOf(r, {0, kTitleHeight, Width(r), Height(r)}, kButtonTextColour), 0) << "\"(Empty)\" is written";
+}
+
+TEST_F(StartupMenu, AFolderHotspotListsTheFolder) {
+    ASSERT_TRUE(folder_.ready());
+    std::string tools = folder_.File("Tools");
+    ASSERT_TRUE(::CreateDirectoryW(Win::Widen(tools).c_str(), nullptr));
+    ASSERT_TRUE(::CreateDirectoryW(Win::Widen(tools + "\\Games").c_str(), nullptr));
+    folder_.WriteBytes("Tools\\notes.txt", "x");
+    folder_.WriteBytes("Tools\\setup.exe", "x");
+    std::string hotspot = "HotSpot0Type=0\nHotSpot0Menupath1=" + tools + "\n";
+    std::optional<WindowInfo> menu = Start(Settings(hotspot, ""), MenuFile("Programs", kLabels));
+    ASSERT_TRUE(menu);
+    Screenshot("folder");
+    const RECT& r = menu->rect;
+    EXPECT_EQ(menu->title, "Tools");
+    EXPECT_EQ(Height(r), kTitleHeight + 3 * kButtonHeight);
+}

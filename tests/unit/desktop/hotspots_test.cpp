@@ -1,0 +1,187 @@
+#include "desktop/hotspots.h"
+
+#include <gtest/gtest.h>
+
+using namespace Hotspots;
+
+namespace {
+
+MenuRec Named(const char* name) {
+    MenuRec menu;
+    menu.NAME = name;
+    return menu;
+}
+
+MenuTable Menus(std::initializer_list<const char*> names) {
+    MenuTable table;
+    for (const char* name : names)
+        table.menus.push_back(Named(name));
+    return table;
+}
+
+HotspotRec ShowMenu(const char* name) {
+    HotspotRec hotspot;
+    hotspot.Type = kShowMenu;
+    hotspot.Menupath1 = name;
+    return hotspot;
+}
+
+} // namespace
+
+TEST(DefaultHotspot, CoversTheDesktopRightOfTheIconColumnOnALeftClick) {
+    HotspotRec hotspot = DefaultHotspot(1024, 768);
+    EXPECT_EQ(hotspot.x1, 48);
+    EXPECT_EQ(hotspot.x2, 1024);
+    EXPECT_EQ(hotspot.y1, 0);
+    EXPECT_EQ(hotspot.y2, 768);
+    EXPECT_EQ(hotspot.App, "Desktop");
+    EXPECT_EQ(hotspot.GroupName, "Default");
+    EXPECT_EQ(hotspot.Menuname, "");
+    EXPECT_EQ(hotspot.FileTypeMask, "");
+    EXPECT_EQ(hotspot.Menuleft, 0);
+    EXPECT_EQ(hotspot.Menutop, 0);
+    EXPECT_EQ(hotspot.MenuType, 0);
+    EXPECT_FALSE(hotspot.OnMouse);
+    EXPECT_EQ(hotspot.MouseButton, 0) << "left click";
+    EXPECT_EQ(hotspot.UseHotKey, 0);
+    EXPECT_EQ(hotspot.Hotkey, 0);
+    EXPECT_FALSE(hotspot.ShiftHotKey);
+}
+
+TEST(DeclaresHotspots, OnlyASectionWithTheCountKeyHoldsHotspots) {
+    EXPECT_FALSE(DeclaresHotspots({}));
+    EXPECT_FALSE(DeclaresHotspots({{"TitleColor", "0"}, {"HotSpot0x1", "5"}}));
+    EXPECT_TRUE(DeclaresHotspots({{"TitleColor", "0"}, {"NoOfHotSpots", "0"}}));
+    EXPECT_TRUE(DeclaresHotspots({{"noofhotspots", "2"}}));
+}
+
+TEST(EnsureDefaultHotspot, ReplacesTheBlankRecordWhenTheSettingsHeldNone) {
+    std::vector<HotspotRec> loaded(1);
+    EnsureDefaultHotspot(loaded, false, 800, 600);
+    ASSERT_EQ(loaded.size(), 1u);
+    EXPECT_EQ(loaded[0], DefaultHotspot(800, 600));
+}
+
+TEST(EnsureDefaultHotspot, KeepsDeclaredHotspotsEvenAZeroRecord) {
+    std::vector<HotspotRec> loaded(2);
+    loaded[1].App = "Notepad";
+    std::vector<HotspotRec> kept = loaded;
+    EnsureDefaultHotspot(loaded, true, 800, 600);
+    EXPECT_EQ(loaded, kept);
+    std::vector<HotspotRec> none;
+    EnsureDefaultHotspot(none, true, 800, 600);
+    EXPECT_EQ(none, std::vector<HotspotRec>{DefaultHotspot(800, 600)});
+}
+
+TEST(MenuKindOf, TheFixedMapping) {
+    EXPECT_EQ(MenuKindOf(0), 2);
+    EXPECT_EQ(MenuKindOf(1), 3);
+    EXPECT_EQ(MenuKindOf(2), 0);
+    EXPECT_EQ(MenuKindOf(3), 1);
+    EXPECT_EQ(MenuKindOf(4), 4);
+    EXPECT_EQ(MenuKindOf(5), 5);
+    EXPECT_EQ(MenuKindOf(255), 255);
+}
+
+TEST(ActionOf, ProgramsAndCommandsRunTheRestOpenMenus) {
+    EXPECT_EQ(ActionOf(kShowFolder), Action::OpenMenu);
+    EXPECT_EQ(ActionOf(kShowMenu), Action::OpenMenu);
+    EXPECT_EQ(ActionOf(kRunProgram), Action::RunProgram);
+    EXPECT_EQ(ActionOf(kRunCommand), Action::RunCommand);
+    EXPECT_EQ(ActionOf(kShowTasklist), Action::OpenMenu);
+}
+
+TEST(MenuNumberByName, ExactCaseSensitiveFirstMatchFrom1) {
+    MenuTable menus = Menus({"Programs", "Tools", "programs", "Tools"});
+    EXPECT_EQ(MenuNumberByName(menus, "Programs"), 1);
+    EXPECT_EQ(MenuNumberByName(menus, "programs"), 3);
+    EXPECT_EQ(MenuNumberByName(menus, "Tools"), 2);
+    EXPECT_EQ(MenuNumberByName(menus, "TOOLS"), 0);
+    EXPECT_EQ(MenuNumberByName(menus, "Tool"), 0);
+    EXPECT_EQ(MenuNumberByName(menus, ""), 0) << "the unused slot 0 is never a menu";
+}
+
+TEST(FillCascadeRecord, CopiesTheHotspotKeepingTheRecordsIdentifier) {
+    MenuTable menus = Menus({"Programs", "Tools"});
+    HotspotRec hotspot = ShowMenu("Tools");
+    hotspot.Menuleft = 120;
+    hotspot.Menutop = 45;
+    hotspot.Menuname = "My tools";
+    hotspot.Menupath2 = "second";
+    hotspot.MenuType = 2;
+    hotspot.GroupName = "Left";
+    hotspot.FileTypeMask = ".exe";
+    hotspot.AlwaysOpen = -1;
+    hotspot.Theme = "Blue";
+    hotspot.Inherit = true;
+    hotspot.Horizontal = true;
+    MenuWindow::CascadeRec record;
+    record.id = 7;
+    record.firstVisible = 9;
+    record.level = 3;
+    FillCascadeRecord(record, hotspot, 4, menus);
+    EXPECT_EQ(record.id, 7);
+    EXPECT_EQ(record.hotspot, 4);
+    EXPECT_TRUE(record.openedByHotspot);
+    EXPECT_EQ(record.level, 1);
+    EXPECT_EQ(record.parentId, 0);
+    EXPECT_EQ(record.kind, kItemMenuName);
+    EXPECT_EQ(record.menuNumber, 2);
+    EXPECT_EQ(record.position, (MenuWindow::Point{120, 45})) << "pixels, as the hotspot holds them";
+    EXPECT_EQ(record.caption, "My tools");
+    EXPECT_EQ(record.path, "Tools");
+    EXPECT_EQ(record.path2, "second");
+    EXPECT_EQ(record.menuType, 2);
+    EXPECT_EQ(record.groupName, "Left");
+    EXPECT_EQ(record.fileTypeMask, ".exe");
+    EXPECT_TRUE(record.alwaysOpen);
+    EXPECT_EQ(record.theme, "Blue");
+    EXPECT_TRUE(record.inherit);
+    EXPECT_TRUE(record.horizontal);
+    EXPECT_EQ(record.firstVisible, 0) << "scrolled to the top";
+}
+
+TEST(FillCascadeRecord, AMenuNameThatMatchesNoneGivesMenu0) {
+    MenuWindow::CascadeRec record;
+    FillCascadeRecord(record, ShowMenu("Missing"), 0, Menus({"Programs"}));
+    EXPECT_EQ(record.menuNumber, 0);
+    EXPECT_EQ(record.kind, kItemMenuName);
+}
+
+TEST(FillCascadeRecord, OnlyShowMenuLooksUpAMenu) {
+    HotspotRec folder = ShowMenu("Programs");
+    folder.Type = kShowFolder;
+    MenuWindow::CascadeRec record;
+    FillCascadeRecord(record, folder, 0, Menus({"Programs"}));
+    EXPECT_EQ(record.menuNumber, 0);
+    EXPECT_EQ(record.kind, kItemFolderPath);
+    EXPECT_EQ(record.path, "Programs");
+}
+
+TEST(SetOpeningPoint, TheOriginAndWithOnMouseTheCursor) {
+    HotspotRec hotspot = ShowMenu("Programs");
+    hotspot.Menuleft = 10;
+    hotspot.Menutop = 20;
+    MenuWindow::CascadeRec record;
+    FillCascadeRecord(record, hotspot, 0, Menus({"Programs"}));
+    SetOpeningPoint(record, hotspot, {300, 200}, {5, 6});
+    EXPECT_EQ(record.origin, (MenuWindow::Point{300, 200}));
+    EXPECT_EQ(record.position, (MenuWindow::Point{10, 20}));
+    EXPECT_FALSE(record.onMouse);
+
+    hotspot.OnMouse = true;
+    SetOpeningPoint(record, hotspot, {300, 200}, {5, 6});
+    EXPECT_EQ(record.position, (MenuWindow::Point{5, 6}));
+    EXPECT_TRUE(record.onMouse);
+}
+
+TEST(TakeRequestedHotspot, TakesARequestOnceAndResetsIt) {
+    std::int16_t requested = -1;
+    EXPECT_EQ(TakeRequestedHotspot(requested), std::nullopt);
+    requested = 3;
+    EXPECT_EQ(TakeRequestedHotspot(requested), 3);
+    EXPECT_EQ(requested, -1);
+    EXPECT_EQ(TakeRequestedHotspot(requested), std::nullopt);
+    requested = 0;
+    EXPECT_EQ(TakeRequestedHotspot(requested), 0);
+}

@@ -1,0 +1,142 @@
+#include "menuwindow/item_list.h"
+
+#include "fake_measure.h"
+#include "menus/data_manager.h"
+
+#include <gtest/gtest.h>
+
+using namespace MenuWindow;
+
+namespace {
+
+MenuRec Named(const char* name) {
+    MenuRec menu;
+    menu.NAME = name;
+    return menu;
+}
+
+MenuTable TwoMenus() {
+    MenuTable table;
+    table.menus.push_back(Named("Programs"));
+    table.menus.push_back(Named("Tools"));
+    for (const char* label : {"Editor", "Calculator"}) {
+        std::int32_t slot = DataManager::AppendItem(table, 0);
+        table.pool[static_cast<std::size_t>(slot)].LABEL = label;
+    }
+    std::int32_t slot = DataManager::AppendItem(table, 1);
+    MenuItemRec& item = table.pool[static_cast<std::size_t>(slot)];
+    item.LABEL = "Disk";
+    item.TYPE = kItemFolderPath;
+    item.PATH = "C:\\";
+    item.ARG = "D:\\";
+    item.RUNSTATE = 1;
+    item.FILETYPEMASK = ".txt";
+    item.ICONPATH = "disk.ico";
+    item.HOTKEY = "d";
+    item.STARTPATH = "C:\\Start";
+    return table;
+}
+
+DisplayEntry Entry(std::uint8_t type, std::string path, std::string iconPath = "") {
+    DisplayEntry entry;
+    entry.TYPE = type;
+    entry.PATH = std::move(path);
+    entry.ICONPATH = std::move(iconPath);
+    return entry;
+}
+
+} // namespace
+
+TEST(SourceOf, ByTheContentKind) {
+    EXPECT_EQ(SourceOf(kItemFolderPath), ListSource::Folder);
+    EXPECT_EQ(SourceOf(kItemMenuName), ListSource::MenuItems);
+    EXPECT_EQ(SourceOf(kItemTaskList), ListSource::TaskList);
+    EXPECT_EQ(SourceOf(kItemFilename), ListSource::None);
+    EXPECT_EQ(SourceOf(kItemCommandName), ListSource::None);
+    EXPECT_EQ(SourceOf(9), ListSource::None);
+}
+
+TEST(MenuItemsList, TheMenusItemsInChainOrderWithEveryField) {
+    MenuTable table = TwoMenus();
+    DisplayList programs = MenuItemsList(table, 1);
+    ASSERT_EQ(programs.Count(), 2);
+    EXPECT_EQ(programs.Item(1).LABEL, "Editor");
+    EXPECT_EQ(programs.Item(2).LABEL, "Calculator");
+    EXPECT_FALSE(programs.empty);
+
+    DisplayList tools = MenuItemsList(table, 2);
+    ASSERT_EQ(tools.Count(), 1);
+    const DisplayEntry& disk = tools.Item(1);
+    EXPECT_EQ(disk.TYPE, kItemFolderPath);
+    EXPECT_EQ(disk.PATH, "C:\\");
+    EXPECT_EQ(disk.ARG, "D:\\");
+    EXPECT_EQ(disk.RUNSTATE, 1);
+    EXPECT_EQ(disk.FILETYPEMASK, ".txt");
+    EXPECT_EQ(disk.ICONPATH, "disk.ico");
+    EXPECT_EQ(disk.HOTKEY, "d");
+    EXPECT_EQ(disk.STARTPATH, "C:\\Start");
+}
+
+TEST(MenuItemsList, NoMenuNoItems) {
+    MenuTable table = TwoMenus();
+    EXPECT_EQ(MenuItemsList(table, 0).Count(), 0);
+    EXPECT_EQ(MenuItemsList(table, 3).Count(), 0);
+    EXPECT_EQ(MenuItemsList(table, -1).Count(), 0);
+}
+
+TEST(FolderList, KeepsTheListingsCountsWithTheMoreItemFrom1) {
+    FolderListing listing;
+    listing.entries.resize(3);
+    listing.folderCount = 2;
+    listing.moreIndex = 0;
+    DisplayList list = FolderList(listing);
+    EXPECT_EQ(list.Count(), 3);
+    EXPECT_EQ(list.folderCount, 2);
+    EXPECT_EQ(list.moreItem, 1);
+    FolderListing empty;
+    empty.entries.resize(1);
+    empty.empty = true;
+    DisplayList none = FolderList(empty);
+    EXPECT_TRUE(none.empty);
+    EXPECT_EQ(none.moreItem, 0);
+}
+
+TEST(OpensSubMenu, FoldersMenusAndTheTaskList) {
+    EXPECT_FALSE(OpensSubMenu(kItemFilename));
+    EXPECT_FALSE(OpensSubMenu(kItemCommandName));
+    EXPECT_TRUE(OpensSubMenu(kItemFolderPath));
+    EXPECT_TRUE(OpensSubMenu(kItemMenuName));
+    EXPECT_TRUE(OpensSubMenu(kItemTaskList));
+}
+
+TEST(MeasureItems, TextWidthsArrowsAndHotKeys) {
+    DisplayList list = MenuItemsList(TwoMenus(), 2);
+    list.entries.push_back(Entry(kItemFilename, "a.exe"));
+    list.entries.back().LABEL = "Run";
+    std::vector<ItemMeasure> measures = MeasureItems(list, FakeMeasure{});
+    ASSERT_EQ(measures.size(), 2u);
+    EXPECT_EQ(measures[0], (ItemMeasure{4 * kButtonCharWidth, true, true, kButtonCharWidth}));
+    EXPECT_EQ(measures[1], (ItemMeasure{3 * kButtonCharWidth, false, false, 0}));
+}
+
+TEST(HotkeyLabel, IsTheKeyUpperCased) {
+    EXPECT_EQ(HotkeyLabel("q"), "Q");
+    EXPECT_EQ(HotkeyLabel("F5"), "F5");
+}
+
+TEST(IconSourceOf, IconPathWithAndWithoutAnIndex) {
+    EXPECT_EQ(IconSourceOf(Entry(0, "a.exe", "shell32.dll,3")), (IconSource{"shell32.dll", 3, false}));
+    EXPECT_EQ(IconSourceOf(Entry(0, "a.exe", "C:\\Icons\\app.ico")), (IconSource{"C:\\Icons\\app.ico", 0, false}));
+    EXPECT_EQ(IconSourceOf(Entry(0, "a.exe", "moricons.dll, -12 ")), (IconSource{"moricons.dll", -12, false}));
+    EXPECT_EQ(IconSourceOf(Entry(0, "", "\"C:\\My, Icons\\x.dll\",2")), (IconSource{"C:\\My, Icons\\x.dll", 2, false}));
+    EXPECT_EQ(IconSourceOf(Entry(0, "", "C:\\My, Icons\\x.ico")), (IconSource{"C:\\My, Icons\\x.ico", 0, false}))
+        << "a comma inside the path is not an index";
+}
+
+TEST(IconSourceOf, ElseTheShellsIconOfTheFileOrFolder) {
+    EXPECT_EQ(IconSourceOf(Entry(kItemFilename, "C:\\Tools\\edit.exe")), (IconSource{"C:\\Tools\\edit.exe", 0, true}));
+    EXPECT_EQ(IconSourceOf(Entry(kItemFolderPath, "C:\\Tools\\")), (IconSource{"C:\\Tools\\", 0, true}));
+    EXPECT_EQ(IconSourceOf(Entry(kItemCommandName, "*5")), std::nullopt);
+    EXPECT_EQ(IconSourceOf(Entry(kItemMenuName, "Tools")), std::nullopt);
+    EXPECT_EQ(IconSourceOf(Entry(kItemFilename, "")), std::nullopt);
+}

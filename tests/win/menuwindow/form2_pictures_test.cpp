@@ -1,0 +1,181 @@
+// The theme's pictures in a painted menu: title and button bitmaps stretched and tiled,
+// transparent buttons, the picture arrows and command-key symbols with their selected
+// forms, and parts whose picture is missing.
+#include "menu_window_fixture.h"
+#include "support/temp_folder.h"
+#include "test_pictures.h"
+
+using namespace MenuWindowTests;
+using MenuWindow::Rect;
+
+namespace {
+
+constexpr COLORREF kRed = RGB(200, 30, 30);
+constexpr COLORREF kGreen = RGB(30, 180, 60);
+constexpr COLORREF kBlue = RGB(40, 60, 210);
+constexpr COLORREF kYellow = RGB(230, 210, 40);
+constexpr COLORREF kKey = RGB(255, 0, 255);
+
+// A pattern in which every pixel of an 8 x 8 tile differs from its neighbours.
+COLORREF Pattern(int x, int y) {
+    return RGB(20 + x * 28, 20 + y * 28, 90);
+}
+
+class PicturesTest : public MenuWindowTest {
+protected:
+    void SetUp() override { settings.BitmapsFolder = folder.path(); }
+    std::string File(const std::string& name) const { return folder.File(name); }
+
+    TestSupport::TempFolder folder;
+};
+
+// The pixels of a row of a rectangle that differ from the tiled pattern, counted from
+// origin, the corner the tiles start at.
+int MismatchesOfTiles(const WindowPicture& picture, const Rect& area, int y, MenuWindow::Point origin) {
+    int wrong = 0;
+    for (int x = area.left; x < area.right; ++x)
+        wrong += picture.At(x, y) == Pattern((x - origin.x) % 8, (y - origin.y) % 8) ? 0 : 1;
+    return wrong;
+}
+
+} // namespace
+
+TEST_F(PicturesTest, StretchedTitleAndButtonBitmapsShowTheirQuadrants) {
+    Quadrants title{kRed, kGreen, kBlue, kYellow};
+    Quadrants button{kYellow, kBlue, kGreen, kRed};
+    WriteBmp(File("TitleA.bmp"), 8, 8, title);
+    WriteBmp(File("buttona.BMP"), 8, 8, button);
+    settings.TitleBitmap = true;
+    settings.ButtonBitmap = true;
+    Form2* form = Open(MenuRecord(AddMenu("M", {"A long enough label", "Two"})));
+    ASSERT_TRUE(form);
+    WindowPicture picture(form->hwnd());
+    picture.Save("pictures-stretched");
+    Rect bar = form->scene().layout.title;
+    int quarter = bar.Width() / 4;
+    EXPECT_EQ(picture.At(bar.left + quarter, 2), kRed);
+    EXPECT_EQ(picture.At(bar.right - quarter, 2), kGreen);
+    EXPECT_EQ(picture.At(bar.left + quarter, bar.bottom - 3), kBlue);
+    EXPECT_EQ(picture.At(bar.right - quarter, bar.bottom - 3), kYellow);
+    for (int item : {1, 2}) {
+        Rect b = MenuWindow::ItemInWindow(form->scene(), item);
+        EXPECT_EQ(picture.At(b.left + 1, b.top + 2), kYellow) << "item " << item;
+        EXPECT_EQ(picture.At(b.right - 3, b.top + 2), kBlue) << "item " << item;
+        EXPECT_EQ(picture.At(b.left + 1, b.bottom - 3), kGreen) << "item " << item;
+        EXPECT_EQ(picture.At(b.right - 3, b.bottom - 3), kRed) << "item " << item;
+    }
+}
+
+TEST_F(PicturesTest, TiledBitmapsRepeatFromTheCornerOfEachPart) {
+    WriteBmp(File("TitleA.bmp"), 8, 8, Pattern);
+    WriteBmp(File("ButtonA.bmp"), 8, 8, Pattern);
+    settings.TitleBitmap = true;
+    settings.TitleTileBitmap = true;
+    settings.ButtonBitmap = true;
+    settings.ButtonTileBitmap = true;
+    Form2* form = Open(MenuRecord(AddMenu("M", {"Label", "Another label"})));
+    ASSERT_TRUE(form);
+    WindowPicture picture(form->hwnd());
+    picture.Save("pictures-tiled");
+    Rect bar = form->scene().layout.title;
+    ASSERT_GT(bar.Width(), 16) << "more than one tile across";
+    EXPECT_EQ(MismatchesOfTiles(picture, bar, bar.top + 1, {bar.left, bar.top}), 0);
+    EXPECT_EQ(MismatchesOfTiles(picture, bar, bar.bottom - 2, {bar.left, bar.top}), 0);
+    Rect second = MenuWindow::ItemInWindow(form->scene(), 2);
+    EXPECT_EQ(MismatchesOfTiles(picture, second, second.top + 1, {second.left, second.top}), 0);
+    EXPECT_EQ(MismatchesOfTiles(picture, second, second.bottom - 1, {second.left, second.top}), 0);
+}
+
+TEST_F(PicturesTest, ABitmapOverTheMenuSpansTheWholeBody) {
+    WriteBmp(File("ButtonA.bmp"), 8, 8, Quadrants{kRed, kGreen, kBlue, kYellow});
+    settings.ButtonBitmap = true;
+    settings.ButtonBitmapToMenu = true;
+    Form2* form = Open(MenuRecord(AddMenu("M", {"A", "B", "C", "D"})));
+    ASSERT_TRUE(form);
+    WindowPicture picture(form->hwnd());
+    Rect body = form->scene().layout.surface;
+    Rect first = MenuWindow::ItemInWindow(form->scene(), 1);
+    Rect last = MenuWindow::ItemInWindow(form->scene(), 4);
+    EXPECT_EQ(picture.At(first.right - 3, first.top + 2), kGreen);
+    EXPECT_EQ(picture.At(last.right - 3, last.bottom - 3), kYellow);
+    EXPECT_EQ(picture.At(body.left + 1, body.bottom - 3), kBlue);
+}
+
+TEST_F(PicturesTest, ATransparentButtonPictureLetsTheMenuColourThroughItsKeyColour) {
+    WriteBmp(File("ButtonA.bmp"), 8, 8, [](int x, int y) { return x >= 2 && x < 6 && y >= 2 && y < 6 ? kBlue : kKey; });
+    settings.ButtonBitmap = true;
+    settings.ButtonTransparent = true;
+    Form2* form = Open(MenuRecord(AddMenu("M", {"A", "B"})));
+    ASSERT_TRUE(form);
+    WindowPicture picture(form->hwnd());
+    picture.Save("pictures-transparent");
+    Rect b = MenuWindow::ItemInWindow(form->scene(), 2);
+    EXPECT_EQ(picture.At(b.left + 1, b.top + 1), kButtonColour);
+    EXPECT_EQ(picture.At(b.right - 2, b.bottom - 2), kButtonColour);
+    EXPECT_EQ(picture.At(b.right - b.Width() / 3, b.top + b.Height() / 2), kBlue);
+    EXPECT_EQ(picture.Count(b, kKey), 0);
+}
+
+TEST_F(PicturesTest, PictureArrowsAndCommandKeySymbolsSwitchToTheirSelectedForms) {
+    WriteIcon(File("ArrowA.ico"), 16, kRed);
+    WriteIcon(File("ArrowAS.ico"), 16, kGreen);
+    WriteIcon(File("ComSymbA.ico"), 16, kBlue);
+    WriteIcon(File("ComSymbAS.ico"), 16, kYellow);
+    settings.Menu3DArrows = 2;
+    settings.HotkeyStyle = 2;
+    int menu = AddMenu("M", {"Tools", "Editor"});
+    ItemOf(menu, 0).TYPE = kItemMenuName;
+    ItemOf(menu, 0).PATH = "Tools";
+    ItemOf(menu, 1).HOTKEY = "e";
+    Form2* form = Open(MenuRecord(menu));
+    ASSERT_TRUE(form);
+    Rect withArrow = MenuWindow::ItemInWindow(form->scene(), 1);
+    Rect withKey = MenuWindow::ItemInWindow(form->scene(), 2);
+    {
+        WindowPicture picture(form->hwnd());
+        picture.Save("pictures-symbols");
+        EXPECT_GT(picture.Count(withArrow, kRed), 100) << "the arrow icon";
+        EXPECT_GT(picture.Count(withKey, kBlue), 100) << "the command-key icon";
+    }
+    form->SetSelection({1, false});
+    WindowPicture arrowSelected(form->hwnd());
+    EXPECT_GT(arrowSelected.Count(withArrow, kGreen), 100);
+    EXPECT_EQ(arrowSelected.Count(withArrow, kRed), 0);
+    form->SetSelection({2, false});
+    WindowPicture keySelected(form->hwnd());
+    EXPECT_GT(keySelected.Count(withKey, kYellow), 100);
+    EXPECT_EQ(keySelected.Count(withKey, kBlue), 0);
+    EXPECT_GT(keySelected.Count(withArrow, kRed), 100) << "the arrow is back to normal";
+}
+
+TEST_F(PicturesTest, AnInactiveMenuWithoutInactiveArrowsShowsTheActiveOne) {
+    WriteIcon(File("ArrowA.ico"), 16, kRed);
+    settings.Menu3DArrows = 2;
+    settings.ButtonShowInactive = true;
+    int menu = AddMenu("M", {"Tools"});
+    ItemOf(menu, 0).TYPE = kItemMenuName;
+    ItemOf(menu, 0).PATH = "Tools";
+    Form2* form = Open(MenuRecord(menu));
+    ASSERT_TRUE(form);
+    form->SetInactive(true);
+    WindowPicture picture(form->hwnd());
+    EXPECT_GT(picture.Count(MenuWindow::ItemInWindow(form->scene(), 1), kRed), 100);
+}
+
+TEST_F(PicturesTest, MissingPicturesLeaveThePartsInTheirColoursAndTheArrowsDrawn) {
+    settings.TitleBitmap = true;
+    settings.ButtonBitmap = true;
+    settings.Menu3DArrows = 2;
+    int menu = AddMenu("M", {"Tools", "Editor"});
+    ItemOf(menu, 0).TYPE = kItemMenuName;
+    ItemOf(menu, 0).PATH = "Tools";
+    Form2* form = Open(MenuRecord(menu));
+    ASSERT_TRUE(form);
+    WindowPicture picture(form->hwnd());
+    Rect withArrow = MenuWindow::ItemInWindow(form->scene(), 1);
+    Rect arrowColumn{withArrow.right - 14, withArrow.top, withArrow.right, withArrow.bottom};
+    EXPECT_EQ(picture.At(1, 1), kTitleColour);
+    EXPECT_EQ(picture.At(withArrow.left + 1, withArrow.top + 1), kButtonColour);
+    EXPECT_LT(picture.Count(arrowColumn, kButtonColour), arrowColumn.Width() * arrowColumn.Height())
+        << "a drawn arrow stands in for the missing icon";
+}

@@ -1,0 +1,101 @@
+// The menu window's fonts: the faces, sizes and angles asked for, with "Arial" in place
+// of a face the system lacks.
+#include "menuwindow/menu_look.h"
+#include "menuwindow/win/menu_fonts.h"
+#include "win/handles.h"
+#include "win/text_convert.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace MenuWindow;
+
+namespace {
+
+LOGFONTW Described(HFONT font) {
+    LOGFONTW described{};
+    ::GetObjectW(font, sizeof described, &described);
+    return described;
+}
+
+MenuLook Look(const std::string& titleFace, const std::string& buttonFace) {
+    SettingsRec settings;
+    settings.TitleFont = titleFace;
+    settings.TitleFontSize = 12;
+    settings.TitleFontBold = true;
+    settings.TitleFontItalic = true;
+    settings.ButtonFont = buttonFace;
+    settings.ButtonFontSize = 9;
+    settings.ButtonFontBold = false;
+    return LookFromSettings(settings);
+}
+
+int CALLBACK KeepFace(const LOGFONTW* font, const TEXTMETRICW*, DWORD type, LPARAM found) {
+    std::wstring face = font->lfFaceName;
+    if (!(type & TRUETYPE_FONTTYPE) || face.empty() || face[0] == L'@' || face == L"Arial")
+        return 1;
+    *reinterpret_cast<std::wstring*>(found) = face;
+    return 0;
+}
+
+// An outline font the system has, other than Arial.
+std::string InstalledFace() {
+    LOGFONTW any{};
+    any.lfCharSet = DEFAULT_CHARSET;
+    std::wstring found;
+    Win::WindowDc screen(nullptr);
+    ::EnumFontFamiliesExW(screen.get(), &any, KeepFace, reinterpret_cast<LPARAM>(&found), 0);
+    return Win::Narrow(found);
+}
+
+} // namespace
+
+TEST(MenuFonts, AFaceTheSystemLacksBecomesArial) {
+    ASSERT_FALSE(FontFaceExists("No Such Face Tarvex"));
+    MenuFonts fonts;
+    fonts.Build(Look("No Such Face Tarvex", "No Such Face Either"), 96);
+    EXPECT_STREQ(Described(fonts.Get(FontRole::Title)).lfFaceName, L"Arial");
+    EXPECT_STREQ(Described(fonts.Get(FontRole::TitleVertical)).lfFaceName, L"Arial");
+    EXPECT_STREQ(Described(fonts.Get(FontRole::Button)).lfFaceName, L"Arial");
+}
+
+TEST(MenuFonts, AFaceTheSystemHasIsKept) {
+    std::string face = InstalledFace();
+    ASSERT_FALSE(face.empty());
+    ASSERT_TRUE(FontFaceExists(face));
+    MenuFonts fonts;
+    fonts.Build(Look(face, face), 96);
+    EXPECT_EQ(Win::Narrow(Described(fonts.Get(FontRole::Title)).lfFaceName), face);
+    EXPECT_EQ(Win::Narrow(Described(fonts.Get(FontRole::Button)).lfFaceName), face);
+}
+
+TEST(MenuFonts, TheTitleFontIsMadeUprightAndTurnedWithItsSizeWeightAndSlant) {
+    MenuFonts fonts;
+    fonts.Build(Look("Arial", "Arial"), 96);
+    LOGFONTW upright = Described(fonts.Get(FontRole::Title));
+    LOGFONTW turned = Described(fonts.Get(FontRole::TitleVertical));
+    EXPECT_EQ(upright.lfEscapement, 0);
+    EXPECT_EQ(turned.lfEscapement, 900);
+    EXPECT_EQ(turned.lfOrientation, 900);
+    EXPECT_EQ(upright.lfHeight, -16) << "12 points at 96 DPI";
+    EXPECT_EQ(upright.lfWeight, FW_BOLD);
+    EXPECT_TRUE(upright.lfItalic);
+    LOGFONTW button = Described(fonts.Get(FontRole::Button));
+    EXPECT_EQ(button.lfHeight, -12);
+    EXPECT_EQ(button.lfWeight, FW_NORMAL);
+}
+
+TEST(MenuFonts, MeasuresTextsInTheirFonts) {
+    MenuFonts fonts;
+    fonts.Build(Look("Arial", "Arial"), 96);
+    EXPECT_EQ(fonts.Width(FontRole::Button, ""), 0);
+    int shortText = fonts.Width(FontRole::Button, "Mail");
+    int longText = fonts.Width(FontRole::Button, "Mail and calendar");
+    EXPECT_GT(shortText, 0);
+    EXPECT_GT(longText, shortText);
+    EXPECT_EQ(fonts.Width(FontRole::TitleVertical, "Programs"), fonts.Width(FontRole::Title, "Programs"));
+    EXPECT_GT(fonts.Width(FontRole::Title, "Programs"), fonts.Width(FontRole::Button, "Programs"))
+        << "the title font is larger and bold";
+    EXPECT_GT(fonts.Height(FontRole::Title), fonts.Height(FontRole::Button));
+}
