@@ -8,6 +8,8 @@
 
 #include <windows.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <iterator>
 #include <vector>
 
@@ -28,6 +30,7 @@ Target& CurrentTarget() {
 
 constexpr DWORD kValueBufferSize = 255;
 constexpr DWORD kKeyListBufferSize = 16384;
+constexpr DWORD kKeyListBufferLimit = 16384 * 1024;
 
 std::string CurrentDirectoryOfDrive(char drive) {
     wchar_t buffer[MAX_PATH * 2];
@@ -73,10 +76,18 @@ std::int16_t ReadSection(ProfileSection& table) {
     const Target& t = CurrentTarget();
     if (!t.registered)
         return 0;
-    std::vector<wchar_t> names(kKeyListBufferSize, L'\0');
-    DWORD n = ::GetPrivateProfileStringW(t.section.c_str(), nullptr, L"", names.data(), kKeyListBufferSize,
-                                         t.file.c_str());
-    std::int16_t count = 0;
+    // The key list starts at 16384 characters and grows until it is whole: a cut list
+    // would drop the keys past the cut, and the next save of a menu file would then
+    // delete those items for good.
+    std::vector<wchar_t> names;
+    DWORD n = 0;
+    for (DWORD size = kKeyListBufferSize; size <= kKeyListBufferLimit; size *= 2) {
+        names.assign(size, L'\0');
+        n = ::GetPrivateProfileStringW(t.section.c_str(), nullptr, L"", names.data(), size, t.file.c_str());
+        if (n + 2 < size)
+            break;
+    }
+    std::size_t count = 0;
     std::size_t pos = 0;
     while (pos < n) {
         std::wstring_view name(names.data() + pos);
@@ -88,7 +99,8 @@ std::int16_t ReadSection(ProfileSection& table) {
         ++count;
         pos += name.size() + 1;
     }
-    return count;
+    // The table holds them all; the count is 16 bits, as callers expect.
+    return static_cast<std::int16_t>(std::min<std::size_t>(count, INT16_MAX));
 }
 
 ProfileSection ReadWholeSection(std::string_view section, std::string_view file) {

@@ -18,7 +18,8 @@ void SetTarget(std::string_view section, std::string_view file);
 std::string ReadValue(std::string_view key, std::string_view defaultValue);
 
 // Fills the table with the current section's keys and values in file order and
-// returns how many; 0 with no target set.
+// returns how many; 0 with no target set. Every key of the section is read, however
+// long the list of names.
 std::int16_t ReadSection(ProfileSection& table);
 
 // Writes one value. A file that does not exist yet is created as UTF-16LE with a

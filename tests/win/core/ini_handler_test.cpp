@@ -87,6 +87,20 @@ TEST(IniHandler, ReadsASectionInFileOrderAndDuplicatesReadTheFirstValue) {
     EXPECT_EQ(table, expected);
 }
 
+TEST(IniHandler, ASectionWithMoreNamesThanTheFirstListHoldsIsReadWhole) {
+    TempFolder dir;
+    std::string file = dir.File("TvMenus.ini");
+    std::string text = "[MENU-1]\r\n";
+    const int keys = 3000; // about 33,000 characters of names, twice the first list
+    for (int i = 0; i < keys; ++i)
+        text += "FILETYPEMASK-" + std::to_string(i) + "=" + std::to_string(i) + "\r\n";
+    TestSupport::WriteBytes(file, text);
+
+    ProfileSection table = IniHandler::ReadWholeSection("MENU-1", file);
+    ASSERT_EQ(table.size(), static_cast<std::size_t>(keys));
+    EXPECT_EQ(table.back(), (ProfileEntry{"FILETYPEMASK-2999", "2999"}));
+}
+
 TEST(IniHandler, ACreatedFileIsUtf16AndKeepsNonLatinText) {
     TempFolder dir;
     std::string file = dir.File("Helmora.ini");
