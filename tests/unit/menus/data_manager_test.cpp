@@ -77,9 +77,9 @@ struct ScanningPool {
     }
 };
 
-void RunRandomEditing(unsigned seed, int steps) {
+void RunRandomEditing(unsigned trial, int steps) {
     constexpr std::int32_t kMenus = 5;
-    std::mt19937 random(seed);
+    std::mt19937 random(trial);
     const auto pick = [&](std::int32_t below) { return static_cast<std::int32_t>(random() % below); };
     MenuTable table;
     ScanningPool plain;
@@ -133,9 +133,9 @@ std::vector<std::string> Labels(const MenuTable& table, std::int32_t menu) {
 } // namespace
 
 TEST(DataManager, AnswersLikeThePlainScanThroughRandomEditing) {
-    for (unsigned seed = 1; seed <= 30 && !HasFatalFailure(); ++seed) {
-        SCOPED_TRACE(seed);
-        RunRandomEditing(seed, 600);
+    for (unsigned trial = 1; trial <= 30 && !HasFatalFailure(); ++trial) {
+        SCOPED_TRACE(trial);
+        RunRandomEditing(trial, 600);
     }
 }
 

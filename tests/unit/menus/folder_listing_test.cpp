@@ -243,8 +243,8 @@ TEST(FolderListing, SortEntriesLeavesEqualLabelsWhereThisQuicksortPutsThem) {
             self(self, list, i, last);
     };
     const Strings words = {"a", "A", "b", "B", "ab", "Ab", "_", ""};
-    for (unsigned seed = 1; seed <= 200; ++seed) {
-        std::mt19937 random(seed);
+    for (unsigned trial = 1; trial <= 200; ++trial) {
+        std::mt19937 random(trial);
         std::vector<DisplayEntry> list(1 + random() % 60);
         for (std::size_t k = 0; k < list.size(); ++k) {
             list[k].LABEL = words[random() % words.size()];
@@ -253,6 +253,6 @@ TEST(FolderListing, SortEntriesLeavesEqualLabelsWhereThisQuicksortPutsThem) {
         std::vector<DisplayEntry> expected = list;
         reading(reading, expected, 0, static_cast<int>(list.size()) - 1);
         SortEntries(list, 0, static_cast<std::ptrdiff_t>(list.size()) - 1);
-        ASSERT_EQ(list, expected) << "seed " << seed;
+        ASSERT_EQ(list, expected) << "trial " << trial;
     }
 }
