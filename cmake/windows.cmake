@@ -50,6 +50,11 @@ if(CMAKE_CROSSCOMPILING)
     set(CMAKE_CROSSCOMPILING_EMULATOR ${CMAKE_SOURCE_DIR}/tools/wine-run.sh --prefix ${CMAKE_BINARY_DIR}/wineprefix)
 endif()
 
+# Helpers shared by the shell tests and the end-to-end tests.
+add_library(tarvex_test_support STATIC ${CMAKE_SOURCE_DIR}/tests/support/temp_folder.cpp)
+target_include_directories(tarvex_test_support PUBLIC ${CMAKE_SOURCE_DIR}/tests)
+target_link_libraries(tarvex_test_support PUBLIC tarvex_shell)
+
 add_subdirectory(tests/win)
 add_subdirectory(tests/e2e)
 add_subdirectory(bench/win)

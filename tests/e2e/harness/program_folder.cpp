@@ -1,46 +1,14 @@
 #include "harness/program_folder.h"
 
-#include "win/handles.h"
 #include "win/text_convert.h"
 
 #include <windows.h>
 
-#include <atomic>
 #include <vector>
 
 namespace E2e {
 
 namespace {
-
-void RemoveTree(const std::wstring& folder) {
-    WIN32_FIND_DATAW data;
-    Win::UniqueFindHandle find(::FindFirstFileW((folder + L"\\*").c_str(), &data));
-    if (find) {
-        do {
-            std::wstring name = data.cFileName;
-            if (name == L"." || name == L"..")
-                continue;
-            std::wstring full = folder + L"\\" + name;
-            if (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) {
-                RemoveTree(full);
-            } else {
-                ::SetFileAttributesW(full.c_str(), FILE_ATTRIBUTE_NORMAL);
-                ::DeleteFileW(full.c_str());
-            }
-        } while (::FindNextFileW(find.get(), &data));
-    }
-    find.reset();
-    ::RemoveDirectoryW(folder.c_str());
-}
-
-std::wstring TempBase() {
-    wchar_t temp[MAX_PATH];
-    DWORD n = ::GetTempPathW(MAX_PATH, temp);
-    std::wstring base(temp, n);
-    if (!base.empty() && base.back() == L'\\')
-        base.pop_back();
-    return base;
-}
 
 std::string Utf16LeWithMark(std::string_view utf8) {
     std::wstring wide = Win::Widen(utf8);
@@ -64,32 +32,12 @@ std::string WithCrLf(std::string_view lines) {
 
 } // namespace
 
-TempFolder::TempFolder() {
-    static std::atomic<unsigned> counter{0};
-    std::wstring base = TempBase();
-    for (;;) {
-        std::wstring candidate =
-            base + L"\\tarvex-e2e-" + std::to_wstring(::GetCurrentProcessId()) + L"-" + std::to_wstring(counter++);
-        if (::CreateDirectoryW(candidate.c_str(), nullptr)) {
-            path_ = Win::Narrow(candidate);
-            return;
-        }
-        if (::GetLastError() != ERROR_ALREADY_EXISTS)
-            return; // path_ stays empty; the tests' checks of the folder fail
-    }
-}
-
-TempFolder::~TempFolder() {
-    if (!path_.empty())
-        RemoveTree(Win::Widen(path_));
-}
-
 std::string TempFolder::File(std::string_view name) const {
-    return path_ + "\\" + std::string(name);
+    return path() + "\\" + std::string(name);
 }
 
 bool TempFolder::Exists(std::string_view name) const {
-    return ::GetFileAttributesW(Win::Widen(File(name)).c_str()) != INVALID_FILE_ATTRIBUTES;
+    return TestSupport::FileExists(File(name));
 }
 
 bool TempFolder::IsFolder(std::string_view name) const {
@@ -98,25 +46,11 @@ bool TempFolder::IsFolder(std::string_view name) const {
 }
 
 std::string TempFolder::ReadBytes(std::string_view name) const {
-    Win::UniqueFileHandle file(::CreateFileW(Win::Widen(File(name)).c_str(), GENERIC_READ,
-                                             FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
-                                             FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file)
-        return {};
-    std::string bytes;
-    char buffer[4096];
-    DWORD got = 0;
-    while (::ReadFile(file.get(), buffer, sizeof buffer, &got, nullptr) && got > 0)
-        bytes.append(buffer, got);
-    return bytes;
+    return TestSupport::ReadBytes(File(name));
 }
 
 void TempFolder::WriteBytes(std::string_view name, std::string_view bytes) const {
-    Win::UniqueFileHandle file(::CreateFileW(Win::Widen(File(name)).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                             FILE_ATTRIBUTE_NORMAL, nullptr));
-    DWORD written = 0;
-    if (file)
-        ::WriteFile(file.get(), bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+    TestSupport::WriteBytes(File(name), std::string(bytes));
 }
 
 ProgramFolder::ProgramFolder() {

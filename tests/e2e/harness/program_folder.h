@@ -5,19 +5,17 @@
 // contents when the test is done.
 #pragma once
 
+#include "support/temp_folder.h"
+
 #include <string>
 #include <string_view>
 
 namespace E2e {
 
+// A temporary folder with the file helpers the end-to-end tests use.
 class TempFolder {
 public:
-    TempFolder();
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
-    ~TempFolder();
-
-    const std::string& path() const { return path_; } // UTF-8, no trailing backslash
+    const std::string& path() const { return folder_.path(); } // UTF-8, no trailing backslash
     std::string File(std::string_view name) const;
     bool Exists(std::string_view name) const;
     bool IsFolder(std::string_view name) const;
@@ -25,7 +23,7 @@ public:
     void WriteBytes(std::string_view name, std::string_view bytes) const;
 
 private:
-    std::string path_;
+    TestSupport::TempFolder folder_;
 };
 
 class ProgramFolder : public TempFolder {

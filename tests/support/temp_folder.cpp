@@ -41,8 +41,8 @@ TempFolder::TempFolder() {
     if (!base.empty() && base.back() == L'\\')
         base.pop_back();
     for (;;) {
-        std::wstring candidate = base + L"\\tarvex-test-" + std::to_wstring(::GetCurrentProcessId()) + L"-" +
-                                 std::to_wstring(counter++);
+        std::wstring candidate =
+            base + L"\\tarvex-test-" + std::to_wstring(::GetCurrentProcessId()) + L"-" + std::to_wstring(counter++);
         if (::CreateDirectoryW(candidate.c_str(), nullptr)) {
             path_ = Win::Narrow(candidate);
             return;
@@ -52,11 +52,14 @@ TempFolder::TempFolder() {
     }
 }
 
-TempFolder::~TempFolder() { RemoveTree(Win::Widen(path_)); }
+TempFolder::~TempFolder() {
+    RemoveTree(Win::Widen(path_));
+}
 
 std::string ReadBytes(const std::string& path) {
-    Win::UniqueFileHandle h(::CreateFileW(Win::Widen(path).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
-                                          OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    // Shared for writing too: the program under test may still hold the file open.
+    Win::UniqueFileHandle h(::CreateFileW(Win::Widen(path).c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                                          nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
     if (!h)
         return {};
     std::string out;
