@@ -49,7 +49,8 @@ Form2* OpenHotspotMenu(Program& program, int hotspotIndex, MenuWindow::Point ori
         return nullptr;
     }
     form->Show();
-    return form;
+    // The menu may have been closed while its opening animation served the queue.
+    return openMenus.WindowOf(id);
 }
 
 void OpenMenuOfHotspot(Program& program, int hotspotIndex) {

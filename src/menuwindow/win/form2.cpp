@@ -4,6 +4,7 @@
 #include "core/win/system_values.h"
 #include "menuwindow/menu_look.h"
 #include "menuwindow/win/play_sound.h"
+#include "menuwindow/win/ripple_menu.h"
 #include "win/text_convert.h"
 
 namespace {
@@ -46,10 +47,24 @@ bool Form2::Create() {
 
 void Form2::Show() {
     HWND hwnd = window_.get();
+    MenuWindow::AnimationPlan plan = MenuWindow::PlanMenuAnimation(MenuWindow::AnimationSettingsFrom(settings_),
+                                                                   Record().horizontal, scene_.layout.window);
+    MenuWindow::CoverForRipple(hwnd, plan);
     ::ShowWindow(hwnd, SW_SHOW);
     ::SetForegroundWindow(hwnd);
     ::UpdateWindow(hwnd);
     PlayOpenMenuSound();
+    Animate(plan); // last: this object may be gone afterwards
+}
+
+// The animation clips the window; once it is over the window takes its own outline back.
+void Form2::Animate(const MenuWindow::AnimationPlan& plan) {
+    std::weak_ptr<bool> alive = lifetime_;
+    int shown = MenuWindow::RippleMenu(window_.get(), picture_, plan);
+    if (alive.expired())
+        return;
+    animationFramesShown_ = shown;
+    ApplyOutline();
 }
 
 // A hotspot's menu plays the hotspot's sound; the hotspot index is -1 for a sub-menu.

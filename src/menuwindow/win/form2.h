@@ -6,6 +6,7 @@
 
 #include "core/settings.h"
 #include "menus/menu_records.h"
+#include "menuwindow/animation.h"
 #include "menuwindow/cascade.h"
 #include "menuwindow/menu_look.h"
 #include "menuwindow/menu_scene.h"
@@ -19,6 +20,7 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <vector>
 
 class Form2 {
@@ -35,7 +37,8 @@ public:
     // Creates the window hidden, takes the settings, paints and places it. False when
     // the window could not be made.
     bool Create();
-    // Shows the window and brings it to the front.
+    // Shows the window, brings it to the front and plays its opening animation. The
+    // queue is served during the animation, so the object may be gone when this returns.
     void Show();
 
     void SetLocalVariables();
@@ -71,6 +74,8 @@ public:
     // does not count); it shows that a change of selection repaints only what changed.
     int ButtonsDrawn() const { return buttonsDrawn_; }
     int IconsHeld() const { return icons_.Held(); }
+    // How many frames the opening animation showed; 0 when it was off.
+    int AnimationFramesShown() const { return animationFramesShown_; }
 
 private:
     static LRESULT CALLBACK WindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
@@ -80,6 +85,7 @@ private:
     void Form_PrintClient(HDC dc);
     void Form_Unload();
     void PlayOpenMenuSound();
+    void Animate(const MenuWindow::AnimationPlan& plan);
 
     MenuWindow::CascadeRec& Record();
     MenuWindow::DisplayList BuildItemList();
@@ -104,6 +110,9 @@ private:
     bool inactive_ = false;
     bool rolledUp_ = false;
     int buttonsDrawn_ = 0;
+    int animationFramesShown_ = 0;
+    // Expires with the object: code that serves the queue checks it before touching members.
+    std::shared_ptr<bool> lifetime_ = std::make_shared<bool>(true);
     // Declared last, so it goes first: the window's last messages still find the whole object.
     Win::UniqueWindow window_;
 };

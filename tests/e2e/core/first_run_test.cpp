@@ -75,7 +75,8 @@ TEST(FirstRun, AStartWithoutSettingsShowsTheIntroductionFirst) {
     ::GetClientRect(introduction->hwnd, &client);
     HWND hwnd = introduction->hwnd;
     EXPECT_TRUE(WaitUntil([&] { return ClientPixel(hwnd, 4, 4) == ::GetSysColor(COLOR_WINDOW); }, 10s));
-    EXPECT_EQ(ClientPixel(hwnd, 4, client.bottom - 4), ::GetSysColor(COLOR_BTNFACE));
+    EXPECT_TRUE(WaitUntil([&] { return ClientPixel(hwnd, 4, client.bottom - 4) == ::GetSysColor(COLOR_BTNFACE); }, 10s))
+        << "footer pixel " << ClientPixel(hwnd, 4, client.bottom - 4);
     EXPECT_TRUE(WaitForNoVisibleWindow(kDialogClass, tarvex.processId(), 0ms)) << "something came before it";
     EXPECT_FALSE(folder.Exists("Helmora.ini"));
 
