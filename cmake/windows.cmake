@@ -51,7 +51,8 @@ if(CMAKE_CROSSCOMPILING)
 endif()
 
 # Helpers shared by the shell tests and the end-to-end tests.
-add_library(tarvex_test_support STATIC ${CMAKE_SOURCE_DIR}/tests/support/temp_folder.cpp)
+add_library(tarvex_test_support STATIC ${CMAKE_SOURCE_DIR}/tests/support/temp_folder.cpp
+                                       ${CMAKE_SOURCE_DIR}/tests/support/test_pictures.cpp)
 target_include_directories(tarvex_test_support PUBLIC ${CMAKE_SOURCE_DIR}/tests)
 target_link_libraries(tarvex_test_support PUBLIC tarvex_shell)
 

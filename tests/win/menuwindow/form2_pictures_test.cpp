@@ -2,10 +2,21 @@
 // transparent buttons, the picture arrows and command-key symbols with their selected
 // forms, and parts whose picture is missing.
 #include "menu_window_fixture.h"
+#include "menuwindow/win/gdiplus_session.h"
 #include "support/temp_folder.h"
-#include "test_pictures.h"
+#include "support/test_pictures.h"
+#include "win/text_convert.h"
+
+#include <objidl.h>
+
+#include <gdiplus.h>
+
+#include <cstdlib>
+#include <string_view>
+#include <vector>
 
 using namespace MenuWindowTests;
+using namespace TestSupport;
 using MenuWindow::Rect;
 
 namespace {
@@ -36,6 +47,36 @@ int MismatchesOfTiles(const WindowPicture& picture, const Rect& area, int y, Men
     for (int x = area.left; x < area.right; ++x)
         wrong += picture.At(x, y) == Pattern((x - origin.x) % 8, (y - origin.y) % 8) ? 0 : 1;
     return wrong;
+}
+
+// A JPEG file of one colour, encoded by GDI+; false when no JPEG encoder was found.
+bool WriteSolidJpeg(const std::string& path, int width, int height, COLORREF colour) {
+    if (!MenuWindow::EnsureGdiplus())
+        return false;
+    UINT count = 0;
+    UINT bytes = 0;
+    if (Gdiplus::GetImageEncodersSize(&count, &bytes) != Gdiplus::Ok || bytes == 0)
+        return false;
+    std::vector<BYTE> buffer(bytes);
+    auto* codecs = reinterpret_cast<Gdiplus::ImageCodecInfo*>(buffer.data());
+    if (Gdiplus::GetImageEncoders(count, bytes, codecs) != Gdiplus::Ok)
+        return false;
+    for (UINT i = 0; i < count; ++i) {
+        if (std::wstring_view(codecs[i].MimeType) != L"image/jpeg")
+            continue;
+        Gdiplus::Bitmap bitmap(width, height, PixelFormat24bppRGB);
+        {
+            Gdiplus::Graphics graphics(&bitmap);
+            graphics.Clear(Gdiplus::Color(255, GetRValue(colour), GetGValue(colour), GetBValue(colour)));
+        }
+        return bitmap.Save(Win::Widen(path).c_str(), &codecs[i].Clsid, nullptr) == Gdiplus::Ok;
+    }
+    return false;
+}
+
+bool Near(COLORREF a, COLORREF b) {
+    return std::abs(GetRValue(a) - GetRValue(b)) <= 6 && std::abs(GetGValue(a) - GetGValue(b)) <= 6 &&
+           std::abs(GetBValue(a) - GetBValue(b)) <= 6;
 }
 
 } // namespace
@@ -178,4 +219,18 @@ TEST_F(PicturesTest, MissingPicturesLeaveThePartsInTheirColoursAndTheArrowsDrawn
     EXPECT_EQ(picture.At(withArrow.left + 1, withArrow.top + 1), kButtonColour);
     EXPECT_LT(picture.Count(arrowColumn, kButtonColour), arrowColumn.Width() * arrowColumn.Height())
         << "a drawn arrow stands in for the missing icon";
+}
+
+TEST_F(PicturesTest, AJpegTitlePictureShowsItsColourOverTheBar) {
+    ASSERT_TRUE(WriteSolidJpeg(File("TitleA.jpg"), 16, 16, kGreen));
+    settings.TitleBitmap = true;
+    Form2* form = Open(MenuRecord(AddMenu("M", {"A long enough label"})));
+    ASSERT_TRUE(form);
+    WindowPicture picture(form->hwnd());
+    picture.Save("pictures-jpeg");
+    Rect bar = form->scene().layout.title;
+    for (int x : {bar.left + 2, bar.left + bar.Width() / 2, bar.right - bar.Width() / 4}) {
+        COLORREF shown = picture.At(x, bar.top + 2);
+        EXPECT_TRUE(Near(shown, kGreen)) << "at x " << x << ": 0x" << std::hex << shown;
+    }
 }

@@ -4,11 +4,12 @@
 #include "menu_window_fixture.h"
 #include "menuwindow/paint_title_buttons.h"
 #include "support/temp_folder.h"
-#include "test_pictures.h"
+#include "support/test_pictures.h"
 
 #include <algorithm>
 
 using namespace MenuWindowTests;
+using namespace TestSupport;
 using MenuWindow::Rect;
 using MenuWindow::TitleButton;
 

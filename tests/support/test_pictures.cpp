@@ -1,10 +1,10 @@
-#include "test_pictures.h"
+#include "support/test_pictures.h"
 
 #include "support/temp_folder.h"
 
 #include <cstdint>
 
-namespace MenuWindowTests {
+namespace TestSupport {
 
 namespace {
 
@@ -83,4 +83,4 @@ void WriteIcon(const std::string& path, int side, COLORREF colour) {
     TestSupport::WriteBytes(path, bytes);
 }
 
-} // namespace MenuWindowTests
+} // namespace TestSupport

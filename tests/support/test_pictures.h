@@ -7,7 +7,7 @@
 #include <functional>
 #include <string>
 
-namespace MenuWindowTests {
+namespace TestSupport {
 
 using PixelColour = std::function<COLORREF(int x, int y)>;
 
@@ -25,4 +25,4 @@ struct Quadrants {
     }
 };
 
-} // namespace MenuWindowTests
+} // namespace TestSupport
