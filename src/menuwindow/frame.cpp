@@ -15,4 +15,17 @@ std::vector<FrameLine> FrameLines(const MenuLook& look, const MenuShape& shape, 
     return lines;
 }
 
+PartLook FrameOverBody(PartLook button, const MenuLook& look, const MenuShape& shape, bool horizontal) {
+    if (!look.MenuFrameToBody || button.background != Background::Solid)
+        return button;
+    std::vector<FrameLine> lines = FrameLines(look, shape, {}, 0);
+    if (lines.empty())
+        return button;
+    const FrameLine& inner = lines.back();
+    button.background = Background::Gradient;
+    button.gradient = {inner.light, inner.dark, horizontal ? kGradientLeftToRight : kGradientTopToBottom, false};
+    button.overMenu = true;
+    return button;
+}
+
 } // namespace MenuWindow

@@ -1,10 +1,16 @@
 #include "menuwindow/menu_scene.h"
 
+#include "menuwindow/frame.h"
 #include "menuwindow/title_buttons.h"
 
 #include <utility>
 
 namespace MenuWindow {
+
+PartLook LookIn(const MenuScene& scene, Part part) {
+    PartLook look = LookOf(scene.look, part, scene.inactive);
+    return part == Part::Button ? FrameOverBody(look, scene.look, scene.options.shape, scene.horizontal) : look;
+}
 
 MenuScene BuildScene(SceneRequest request, const TextMeasure& measure) {
     MenuScene scene;

@@ -44,6 +44,10 @@ struct MenuScene {
 // buttons (its height for a vertical menu, its width for a horizontal one).
 MenuScene BuildScene(SceneRequest request, const TextMeasure& measure);
 
+// The look of a part as this window paints it, the frame's colours carried over the
+// body where the look asks for it.
+PartLook LookIn(const MenuScene& scene, Part part);
+
 // Shows another run of the items: the first visible offset, kept within range.
 void ScrollTo(MenuScene& scene, int first);
 

@@ -80,7 +80,7 @@ DrawList ButtonOps(const MenuScene& scene, int item, ButtonState state, const Te
     if (button.Empty())
         return list;
     Part part = PartForState(scene.look, state);
-    PartLook look = LookOf(scene.look, part, scene.inactive);
+    PartLook look = LookIn(scene, part);
     bool pressed = state == ButtonState::Pressed;
     bool selected = part == Part::SelectionBar;
     AddButtonBackground(list, scene, look, part, button, overFreshBody);
@@ -128,7 +128,7 @@ DrawList ButtonOps(const MenuScene& scene, int item, ButtonState state, const Te
 
 DrawList ScrollButtonOps(const MenuScene& scene) {
     DrawList list;
-    PartLook look = LookOf(scene.look, Part::Button, scene.inactive);
+    PartLook look = LookIn(scene, Part::Button);
     const Rect& surface = scene.layout.surface;
     int line = scene.metrics().frameLine;
     for (const ScrollButton& scroll : ScrollButtons(scene.layout.buttons)) {

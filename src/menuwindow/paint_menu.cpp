@@ -26,7 +26,7 @@ DrawList FrameOps(const MenuScene& scene) {
 
 DrawList SurfaceOps(const MenuScene& scene, const SelectionState& selection, const TextMeasure& measure) {
     DrawList list;
-    PartLook body = LookOf(scene.look, Part::Button, scene.inactive);
+    PartLook body = LookIn(scene, Part::Button);
     // The body shows the button picture only when it spans the body; each button brings
     // its own otherwise.
     std::optional<std::string> picture;

@@ -65,6 +65,39 @@ TEST(SurfaceOps, AGradientOverTheMenuIsPaintedOnceNotAgainForEveryButton) {
     EXPECT_EQ(FilledAt(ops, {scene.layout.surface.right - 1, scene.layout.surface.bottom - 1}), bands.back().colour);
 }
 
+TEST(SurfaceOps, FrameToBodyRunsTheInnerFrameLineOverPlainButtons) {
+    MenuLook look = PlainLook();
+    look.MenuNoFrames = 0;
+    look.Menu3DFrame = true;
+    look.Menu3DFrame2 = true;
+    look.MenuFrameColor3 = 0xFFFFFF;
+    look.MenuFrameColor4 = 0x000000;
+    look.MenuFrameToBody = true;
+    MenuScene scene = Scene(look, Items({"Editor", "Calculator", "Paint", "Mail"}));
+    const Rect& body = scene.layout.surface;
+    DrawList ops = SurfaceOps(scene, {}, FakeMeasure{});
+    std::vector<ColourBand> down =
+        GradientBands({body.Width(), body.Height()}, {0xFFFFFF, 0x000000, kGradientTopToBottom, false});
+    EXPECT_EQ(FilledAt(ops, {body.left + 5, body.top}), down.front().colour);
+    EXPECT_EQ(FilledAt(ops, {body.left + 5, body.bottom - 1}), down.back().colour);
+
+    Point inThird{body.left + 5, SlotInWindow(scene, 3).top + 2};
+    DrawList third = ButtonOps(scene, 3, ButtonState::Normal, FakeMeasure{}, false);
+    EXPECT_EQ(FilledAt(third, inThird), FilledAt(ops, inThird)) << "a repainted button shows its stretch of the run";
+    DrawList selected = ButtonOps(scene, 3, ButtonState::Selected, FakeMeasure{}, false);
+    EXPECT_EQ(FilledAt(selected, inThird), kBar) << "the selection bar keeps its own colour";
+
+    MenuScene across = Scene(look, Items({"Editor", "Calculator"}), "Tools", {0, 0, 1024, 768}, true);
+    EXPECT_EQ(LookIn(across, Part::Button).gradient.type, kGradientLeftToRight);
+
+    look.ButtonGradient = true;
+    EXPECT_EQ(LookIn(Scene(look, Items({"A"})), Part::Button).gradient.from, kButton) << "own gradient kept";
+    look.ButtonGradient = false;
+    look.MenuNoFrames = 1;
+    EXPECT_EQ(FilledAt(SurfaceOps(Scene(look, Items({"A"})), {}, FakeMeasure{}), {body.left + 5, body.top}), kButton)
+        << "no frame, nothing to carry";
+}
+
 TEST(MenuOps, FrameTitleAndSurfaceInThatOrder) {
     MenuLook look = PlainLook();
     look.MenuNoFrames = 0;
