@@ -20,24 +20,8 @@ constexpr UINT kTimer3Interval = 10;
 constexpr UINT kPopSetup = 1;
 constexpr UINT kPopExit = 2;
 
-bool RegisterFormClass(HINSTANCE instance, HICON icon, HICON smallIcon, WNDPROC proc) {
-    WNDCLASSEXW wc{};
-    wc.cbSize = sizeof wc;
-    wc.lpfnWndProc = proc;
-    wc.hInstance = instance;
-    wc.hIcon = icon;
-    wc.hIconSm = smallIcon;
-    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-    wc.lpszClassName = Form1::kClassName;
-    return ::RegisterClassExW(&wc) || ::GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
-}
-
-HICON LoadProgramIcon(const Program& program, int size) {
-    if (program.iconResource == 0)
-        return nullptr;
-    // Shared icons belong to the system's cache and are never destroyed by hand.
-    return static_cast<HICON>(
-        ::LoadImageW(program.instance, MAKEINTRESOURCEW(program.iconResource), IMAGE_ICON, size, size, LR_SHARED));
+HICON ProgramIcon(const Program& program, int size) {
+    return Win::LoadProgramIcon(program.instance, program.iconResource, size);
 }
 
 } // namespace
@@ -50,8 +34,15 @@ Form1::~Form1() {
 }
 
 bool Form1::Create() {
-    HICON icon = LoadProgramIcon(program_, ::GetSystemMetrics(SM_CXICON));
-    if (!RegisterFormClass(program_.instance, icon, FormIcon(), WindowProc))
+    WNDCLASSEXW wc{};
+    wc.cbSize = sizeof wc;
+    wc.lpfnWndProc = Win::FormWindowProc<Form1>;
+    wc.hInstance = program_.instance;
+    wc.hIcon = ProgramIcon(program_, ::GetSystemMetrics(SM_CXICON));
+    wc.hIconSm = FormIcon();
+    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    wc.lpszClassName = kClassName;
+    if (!Win::RegisterFormClass(wc))
         return false;
     BuildSystrayMenu();
     taskbarCreatedMessage_ = ::RegisterWindowMessageW(L"TaskbarCreated");
@@ -66,7 +57,7 @@ bool Form1::Create() {
 }
 
 HICON Form1::FormIcon() const {
-    return LoadProgramIcon(program_, ::GetSystemMetrics(SM_CXSMICON));
+    return ProgramIcon(program_, ::GetSystemMetrics(SM_CXSMICON));
 }
 
 void Form1::BuildSystrayMenu() {
@@ -76,23 +67,6 @@ void Form1::BuildSystrayMenu() {
     ::AppendMenuW(popup, MF_STRING, kPopExit, L"E&xit");
     // The menu bar owns the popup from here on and destroys it with itself.
     ::AppendMenuW(menuBar_.get(), MF_POPUP, reinterpret_cast<UINT_PTR>(popup), L"&Systray");
-}
-
-LRESULT CALLBACK Form1::WindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_NCCREATE) {
-        auto* form = static_cast<Form1*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-        form->window_.reset(hwnd);
-        ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
-    }
-    auto* form = reinterpret_cast<Form1*>(::GetWindowLongPtrW(hwnd, GWLP_USERDATA));
-    if (!form)
-        return ::DefWindowProcW(hwnd, message, wParam, lParam);
-    if (message == WM_NCDESTROY) {
-        ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
-        form->window_.release();
-        return ::DefWindowProcW(hwnd, message, wParam, lParam);
-    }
-    return form->HandleMessage(hwnd, message, wParam, lParam);
 }
 
 LRESULT Form1::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {

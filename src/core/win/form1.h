@@ -6,6 +6,7 @@
 #include "core/startup_rules.h"
 #include "core/win/program.h"
 #include "core/win/tray_icon.h"
+#include "win/form_window.h"
 #include "win/handles.h"
 
 #include <windows.h>
@@ -39,7 +40,7 @@ public:
     Program& program() { return program_; }
 
 private:
-    static LRESULT CALLBACK WindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+    friend LRESULT CALLBACK Win::FormWindowProc<Form1>(HWND, UINT, WPARAM, LPARAM);
     LRESULT HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
     void Form_MouseMove(WPARAM buttons, int x, int y);

@@ -7,22 +7,6 @@
 #include "menuwindow/win/ripple_menu.h"
 #include "win/text_convert.h"
 
-namespace {
-
-// CS_DROPSHADOW gives the popup the system's soft shadow where the system draws one.
-bool RegisterMenuClass(HINSTANCE instance, WNDPROC proc) {
-    WNDCLASSEXW wc{};
-    wc.cbSize = sizeof wc;
-    wc.style = CS_DROPSHADOW;
-    wc.lpfnWndProc = proc;
-    wc.hInstance = instance;
-    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-    wc.lpszClassName = Form2::kClassName;
-    return ::RegisterClassExW(&wc) || ::GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
-}
-
-} // namespace
-
 Form2::Form2(const SettingsRec& settings, const MenuTable& menus, OpenMenus& openMenus, int id)
     : settings_(settings), menus_(menus), openMenus_(openMenus), id_(id) {}
 
@@ -32,7 +16,14 @@ Form2::~Form2() {
 
 bool Form2::Create() {
     HINSTANCE instance = ::GetModuleHandleW(nullptr);
-    if (!RegisterMenuClass(instance, WindowProc))
+    WNDCLASSEXW wc{};
+    wc.cbSize = sizeof wc;
+    wc.style = CS_DROPSHADOW; // the system's soft shadow, where the system draws one
+    wc.lpfnWndProc = Win::FormWindowProc<Form2>;
+    wc.hInstance = instance;
+    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    wc.lpszClassName = kClassName;
+    if (!Win::RegisterFormClass(wc))
         return false;
     // A tool window never gets a taskbar button; the menu has no border or caption of
     // the system's, it paints all of itself.
@@ -98,25 +89,7 @@ void Form2::DestroyIconHandles() {
     icons_.Clear();
 }
 
-LRESULT CALLBACK Form2::WindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_NCCREATE) {
-        auto* form = static_cast<Form2*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-        form->window_.reset(hwnd);
-        ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(form));
-    }
-    auto* form = reinterpret_cast<Form2*>(::GetWindowLongPtrW(hwnd, GWLP_USERDATA));
-    if (!form)
-        return ::DefWindowProcW(hwnd, message, wParam, lParam);
-    if (message == WM_NCDESTROY) {
-        ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
-        form->window_.release();
-        return ::DefWindowProcW(hwnd, message, wParam, lParam);
-    }
-    return form->HandleMessage(message, wParam, lParam);
-}
-
-LRESULT Form2::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) {
-    HWND hwnd = window_.get();
+LRESULT Form2::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_PAINT:
         Picture2_Paint();

@@ -16,6 +16,7 @@
 #include "menuwindow/win/menu_fonts.h"
 #include "menuwindow/win/open_menus.h"
 #include "menuwindow/win/theme_pictures.h"
+#include "win/form_window.h"
 #include "win/handles.h"
 
 #include <windows.h>
@@ -78,8 +79,8 @@ public:
     int AnimationFramesShown() const { return animationFramesShown_; }
 
 private:
-    static LRESULT CALLBACK WindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
-    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    friend LRESULT CALLBACK Win::FormWindowProc<Form2>(HWND, UINT, WPARAM, LPARAM);
+    LRESULT HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
     void Picture2_Paint();
     void Form_PrintClient(HDC dc);

@@ -1,5 +1,6 @@
 #include "prefs/win/first_run_introduction.h"
 
+#include "win/form_window.h"
 #include "win/handles.h"
 #include "win/modal_loop.h"
 #include "win/text_convert.h"
@@ -102,41 +103,20 @@ private:
     bool Register() {
         WNDCLASSEXW wc{};
         wc.cbSize = sizeof wc;
-        wc.lpfnWndProc = WindowProc;
+        wc.lpfnWndProc = Win::FormWindowProc<IntroductionWindow>;
         wc.hInstance = instance_;
         wc.hIcon = ProgramIcon(SM_CXICON);
         wc.hIconSm = ProgramIcon(SM_CXSMICON);
         wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
         wc.hbrBackground = ::GetSysColorBrush(COLOR_WINDOW);
         wc.lpszClassName = kClassName;
-        return ::RegisterClassExW(&wc) || ::GetLastError() == ERROR_CLASS_ALREADY_EXISTS;
+        return Win::RegisterFormClass(wc);
     }
 
-    // Shared icons belong to the system's cache and are never destroyed by hand.
-    HICON ProgramIcon(int metric) const { return LoadProgramIcon(::GetSystemMetrics(metric)); }
-    HICON LoadProgramIcon(int size) const {
-        if (iconResource_ == 0)
-            return nullptr;
-        return static_cast<HICON>(
-            ::LoadImageW(instance_, MAKEINTRESOURCEW(iconResource_), IMAGE_ICON, size, size, LR_SHARED));
-    }
+    HICON ProgramIcon(int metric) const { return ProgramIconAt(::GetSystemMetrics(metric)); }
+    HICON ProgramIconAt(int size) const { return Win::LoadProgramIcon(instance_, iconResource_, size); }
 
-    static LRESULT CALLBACK WindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
-        if (message == WM_NCCREATE) {
-            auto* self = static_cast<IntroductionWindow*>(reinterpret_cast<CREATESTRUCTW*>(lParam)->lpCreateParams);
-            self->window_.reset(hwnd);
-            ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(self));
-        }
-        auto* self = reinterpret_cast<IntroductionWindow*>(::GetWindowLongPtrW(hwnd, GWLP_USERDATA));
-        if (!self)
-            return ::DefWindowProcW(hwnd, message, wParam, lParam);
-        if (message == WM_NCDESTROY) {
-            ::SetWindowLongPtrW(hwnd, GWLP_USERDATA, 0);
-            self->window_.release();
-            return ::DefWindowProcW(hwnd, message, wParam, lParam);
-        }
-        return self->HandleMessage(hwnd, message, wParam, lParam);
-    }
+    friend LRESULT CALLBACK Win::FormWindowProc<IntroductionWindow>(HWND, UINT, WPARAM, LPARAM);
 
     LRESULT HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
         switch (message) {
@@ -166,7 +146,7 @@ private:
             dpi_ = ::GetDeviceCaps(screen.get(), LOGPIXELSY);
         }
         CreateFonts();
-        icon_ = LoadProgramIcon(Scale(kIconSize));
+        icon_ = ProgramIconAt(Scale(kIconSize));
         footerTop_ = LayOutText();
         int clientHeight = footerTop_ + Scale(kButtonHeight) + 2 * Scale(kFooterPadding);
         CreateOkButton(clientHeight);
