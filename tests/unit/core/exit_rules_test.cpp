@@ -42,7 +42,3 @@ TEST(ExitSteps, EachChangeAlone) {
     EXPECT_EQ(ExitRules::ExitSteps({false, false, true}, false).front(), ExitStep::ShowDesktopIcons);
     EXPECT_EQ(ExitRules::ExitSteps({false, false, true}, false).size(), 4u);
 }
-
-TEST(ExitSteps, TheFormsGoLast) {
-    EXPECT_EQ(ExitRules::ExitSteps({true, true, true}, true).back(), ExitStep::UnloadForms);
-}

@@ -14,23 +14,11 @@ TEST(ProgramValues, FoldersAndFilesHangOffTheProgramFolder) {
     EXPECT_EQ(MenuFile(values), "C:\\Apps\\Tarvex\\TvMenus.ini");
 }
 
-TEST(ProgramValues, ARootFolderGivesSingleBackslashes) {
+TEST(ProgramValues, ARootFolderGivesSingleBackslashesAndNonLatinFoldersStayAsTheyAre) {
     ProgramValues values;
     SetProgramFolder(values, "D:\\");
     EXPECT_EQ(SettingsFile(values), "D:\\Helmora.ini");
     EXPECT_EQ(values.ThemesFolder, "D:\\Themes");
-}
-
-TEST(ProgramValues, NonLatinFoldersStayAsTheyAre) {
-    ProgramValues values;
     SetProgramFolder(values, "C:\\Программы\\Tarvex");
     EXPECT_EQ(values.ExportFolder, "C:\\Программы\\Tarvex\\Export");
-}
-
-TEST(ProgramValues, NothingIsOpenAtStart) {
-    ProgramValues values;
-    EXPECT_FALSE(values.PreferencesOpen);
-    EXPECT_FALSE(values.ExitQuestionShowing);
-    EXPECT_EQ(values.SettingsFileName, "\\Helmora.ini");
-    EXPECT_EQ(values.MenuFileName, "\\TvMenus.ini");
 }

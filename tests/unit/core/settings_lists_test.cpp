@@ -9,36 +9,36 @@
 
 namespace {
 
+// A hotspot with every field away from its default.
 HotspotRec SampleHotSpot(int n) {
-    HotspotRec h;
-    h.x1 = static_cast<std::int16_t>(n);
-    h.x2 = static_cast<std::int16_t>(1000 + n);
-    h.y1 = static_cast<std::int16_t>(-n);
-    h.y2 = 768;
-    h.App = "App " + std::to_string(n);
-    h.GroupName = "Group";
-    h.Menutop = 10;
-    h.Menuleft = -20;
-    h.Menuname = "Menu " + std::to_string(n);
-    h.Menupath1 = "C:\\Folder " + std::to_string(n) + "\\";
-    h.Menupath2 = "*7";
-    h.MenuType = 2;
-    h.FileTypeMask = "*.exe;*.lnk";
-    h.OnMouse = true;
-    h.MouseButton = 11;
-    h.UseHotKey = -1;
-    h.Hotkey = 112;
-    h.ShiftHotKey = true;
-    h.Theme = "Blue";
-    h.Inherit = true;
-    h.SoundPath = "s.wav";
-    h.AppPath = "a.exe";
-    h.Type = 4;
-    h.StartPath = "C:\\";
-    h.AlwaysOpen = 1;
-    h.Horizontal = true;
-    h.ForceOnTop = true;
-    return h;
+    const std::string number = std::to_string(n);
+    return {.x1 = static_cast<std::int16_t>(n),
+            .x2 = static_cast<std::int16_t>(1000 + n),
+            .y1 = static_cast<std::int16_t>(-n),
+            .y2 = 768,
+            .App = "App " + number,
+            .GroupName = "Group",
+            .Menutop = 10,
+            .Menuleft = -20,
+            .Menuname = "Menu " + number,
+            .Menupath1 = "C:\\Folder " + number + "\\",
+            .Menupath2 = "*7",
+            .MenuType = 2,
+            .FileTypeMask = "*.exe;*.lnk",
+            .OnMouse = true,
+            .MouseButton = 11,
+            .UseHotKey = -1,
+            .Hotkey = 112,
+            .ShiftHotKey = true,
+            .Theme = "Blue",
+            .Inherit = true,
+            .SoundPath = "s.wav",
+            .AppPath = "a.exe",
+            .Type = 4,
+            .StartPath = "C:\\",
+            .AlwaysOpen = 1,
+            .Horizontal = true,
+            .ForceOnTop = true};
 }
 
 std::vector<HotspotRec> SampleHotSpots(int count) {

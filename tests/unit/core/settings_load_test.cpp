@@ -58,23 +58,60 @@ TEST(SettingsLoad, SaveThenLoadGivesTheSameSettings) {
     EXPECT_EQ(Loaded(SectionOf(SaveSettings(saved, false))), saved);
 }
 
-TEST(SettingsLoad, ReadsAColourAsANumberOrAsRedGreenBlue) {
-    EXPECT_EQ(Loaded({{"TitleColor", "255,0,0"}}).TitleColor, 0x0000FF);
-    EXPECT_EQ(Loaded({{"TitleColor", "255"}}).TitleColor, 0x0000FF);
-    EXPECT_EQ(Loaded({{"TitleColor", "0,128,255"}}).TitleColor, 0xFF8000);
-    EXPECT_EQ(Loaded({{"SelBarColor", " 16 , 32 , 48 "}}).SelBarColor, 0x302010);
-    EXPECT_EQ(Loaded({{"MenuFrameColor", "1,2"}}).MenuFrameColor, 0x000201);
-    // A part beyond 255 would spill into the next colour: the default stays instead.
-    EXPECT_EQ(Loaded({{"TitleColor2", "256,0,0"}}).TitleColor2, 0x808080);
-    // Only the colour keys read the comma form.
-    EXPECT_EQ(Loaded({{"ButtonInactiveTransparent", "1,2,3"}}).ButtonInactiveTransparent, 1);
-}
-
-TEST(SettingsLoad, MatchesKeysWithoutRegardToCase) {
-    SettingsRec settings = Loaded({{"titlecolor", "255"}, {"TITLEFONT", "Tahoma"}, {"buttontextofset", "4"}});
-    EXPECT_EQ(settings.TitleColor, 255);
-    EXPECT_EQ(settings.TitleFont, "Tahoma");
-    EXPECT_EQ(settings.ButtonTextOfset, 4);
+// One key of the file read alone, seen as the value a save then writes for it.
+TEST(SettingsLoad, ReadsEachValueByItsKeysType) {
+    auto number = [](std::int32_t colour) { return std::to_string(colour); };
+    const struct {
+        const char* key;
+        const char* text;
+        std::string saved;
+    } cases[] = {
+        // Colours as one number or as "r,g,b"; a part beyond 255 would spill into the next
+        // colour, so the default stays instead; only the colour keys read the comma form.
+        {"TitleColor", "255,0,0", number(0x0000FF)},
+        {"TitleColor", "255", number(0x0000FF)},
+        {"TitleColor", "0,128,255", number(0xFF8000)},
+        {"SelBarColor", " 16 , 32 , 48 ", number(0x302010)},
+        {"MenuFrameColor", "1,2", number(0x000201)},
+        {"TitleColor2", "256,0,0", number(0x808080)},
+        {"ButtonInactiveTransparent", "1,2,3", "1"},
+        // Keys match without regard to case.
+        {"titlecolor", "255", "255"},
+        {"TITLEFONT", "Tahoma", "Tahoma"},
+        {"buttontextofset", "4", "4"},
+        // A present but empty value overrides the default.
+        {"TitleFont", "", ""},
+        {"TitleFontBold", "", "False"},
+        {"TitleVSize", "", "0"},
+        {"TitleColor2", "", "0"},
+        {"GenSoundsOn", "", "0"},
+        // Text that does not convert reads zero or false; a number reads its leading digits.
+        {"TitleVSize", "abc", "0"},
+        {"TitleColor2", "grey", "0"},
+        {"ButtonInactiveTransparent", "yes", "0"},
+        {"TitleFontBold", "yes", "False"},
+        {"MenuScrollSpeed", "12px", "12"},
+        // Booleans as words in any case or as numbers.
+        {"TitleGradient", "-1", "True"},
+        {"TitleFontBold", "0", "False"},
+        {"ButtonIcons", "TRUE", "True"},
+        {"SelBar", "false", "False"},
+        {"GenShiftHotKey", "True", "True"},
+        // Numbers round half to even; one that does not fit its type keeps the default.
+        {"TitleVSize", "2.5", "2"},
+        {"ButtonVSize", "40000", "20"},
+        {"MenuDropDownDelay", "-32769", "400"},
+        {"RotatePosition", "-32768", "-32768"},
+        {"ButtonInactiveTransparent", "9999999999", "0"},
+        {"NoOfHotSpots", "99999", "0"},
+    };
+    for (const auto& c : cases) {
+        std::optional<std::string> saved;
+        for (const ProfileWrite& write : SaveSettings(Loaded({{c.key, c.text}}), false))
+            if (!saved && Text::EqualsIgnoreCase(write.key, c.key))
+                saved = write.value;
+        EXPECT_EQ(saved, c.saved) << c.key << "=" << c.text;
+    }
 }
 
 // Saving overwrites the first of duplicate keys, so the first is the one that counts.
@@ -88,57 +125,6 @@ TEST(SettingsLoad, FirstOfDuplicateKeysWins) {
     EXPECT_EQ(settings.TitleVSize, 30);
     EXPECT_EQ(settings.TitleFont, "Tahoma");
     EXPECT_EQ(settings.SoundFx[1], "a.wav");
-}
-
-TEST(SettingsLoad, PresentButEmptyValueOverridesTheDefault) {
-    SettingsRec settings = Loaded(
-        {{"TitleFont", ""}, {"TitleFontBold", ""}, {"TitleVSize", ""}, {"TitleColor2", ""}, {"GenSoundsOn", ""}});
-    EXPECT_EQ(settings.TitleFont, "");
-    EXPECT_FALSE(settings.TitleFontBold);
-    EXPECT_EQ(settings.TitleVSize, 0);
-    EXPECT_EQ(settings.TitleColor2, 0);
-    EXPECT_EQ(settings.GenSoundsOn, 0);
-}
-
-TEST(SettingsLoad, TextThatDoesNotConvertReadsZeroOrFalse) {
-    SettingsRec settings = Loaded({{"TitleVSize", "abc"},
-                                   {"TitleColor2", "grey"},
-                                   {"ButtonInactiveTransparent", "yes"},
-                                   {"TitleFontBold", "yes"},
-                                   {"MenuScrollSpeed", "12px"}});
-    EXPECT_EQ(settings.TitleVSize, 0);
-    EXPECT_EQ(settings.TitleColor2, 0);
-    EXPECT_EQ(settings.ButtonInactiveTransparent, 0);
-    EXPECT_FALSE(settings.TitleFontBold);
-    EXPECT_EQ(settings.MenuScrollSpeed, 12);
-}
-
-TEST(SettingsLoad, ReadsBooleanWordsAndNumbers) {
-    SettingsRec settings = Loaded({{"TitleGradient", "-1"},
-                                   {"TitleFontBold", "0"},
-                                   {"ButtonIcons", "TRUE"},
-                                   {"SelBar", "false"},
-                                   {"GenShiftHotKey", "True"}});
-    EXPECT_TRUE(settings.TitleGradient);
-    EXPECT_FALSE(settings.TitleFontBold);
-    EXPECT_TRUE(settings.ButtonIcons);
-    EXPECT_FALSE(settings.SelBar);
-    EXPECT_TRUE(settings.GenShiftHotKey);
-}
-
-TEST(SettingsLoad, RoundsNumbersAndKeepsTheDefaultWhenOneDoesNotFit) {
-    SettingsRec settings = Loaded({{"TitleVSize", "2.5"},
-                                   {"ButtonVSize", "40000"},
-                                   {"MenuDropDownDelay", "-32769"},
-                                   {"RotatePosition", "-32768"},
-                                   {"ButtonInactiveTransparent", "9999999999"},
-                                   {"NoOfHotSpots", "99999"}});
-    EXPECT_EQ(settings.TitleVSize, 2);
-    EXPECT_EQ(settings.ButtonVSize, 20);
-    EXPECT_EQ(settings.MenuDropDownDelay, 400);
-    EXPECT_EQ(settings.RotatePosition, -32768);
-    EXPECT_EQ(settings.ButtonInactiveTransparent, 0);
-    EXPECT_EQ(settings.NoOfHotSpots(), 0);
 }
 
 TEST(SettingsLoad, IgnoresUnknownKeys) {

@@ -5,29 +5,23 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <utility>
 
 using StartupRules::CommandLineWords;
 
 TEST(CommandLineWords, AreFoundAnywhereWhateverTheirCase) {
-    EXPECT_EQ(StartupRules::FindCommandLineWords("autostart"), (CommandLineWords{true, false}));
-    EXPECT_EQ(StartupRules::FindCommandLineWords("/AUTOSTART"), (CommandLineWords{true, false}));
-    EXPECT_EQ(StartupRules::FindCommandLineWords("-Setup"), (CommandLineWords{false, true}));
-    EXPECT_EQ(StartupRules::FindCommandLineWords("xxSETUPxx"), (CommandLineWords{false, true}));
-    EXPECT_EQ(StartupRules::FindCommandLineWords("setup /AutoStart"), (CommandLineWords{true, true}));
+    const std::pair<const char*, CommandLineWords> cases[] = {
+        {"autostart", {true, false}},         {"/AUTOSTART", {true, false}},      {"-Setup", {false, true}},
+        {"xxSETUPxx", {false, true}},         {"setup /AutoStart", {true, true}}, {"", {false, false}},
+        {"auto start set up", {false, false}}};
+    for (const auto& [line, words] : cases)
+        EXPECT_EQ(StartupRules::FindCommandLineWords(line), words) << line;
 }
 
-TEST(CommandLineWords, NoneInAnEmptyOrUnrelatedLine) {
-    EXPECT_EQ(StartupRules::FindCommandLineWords(""), (CommandLineWords{false, false}));
-    EXPECT_EQ(StartupRules::FindCommandLineWords("auto start set up"), (CommandLineWords{false, false}));
-}
-
-TEST(ProgramFolder, AutostartTakesTheExecutablesFolder) {
+TEST(ProgramFolder, AutostartTakesTheExecutablesFolderOtherwiseTheCurrentDirectory) {
     EXPECT_EQ(StartupRules::ChooseProgramFolder({true, false}, "C:\\Tools\\Tarvex", "C:\\Windows\\System32"),
               "C:\\Tools\\Tarvex");
     EXPECT_EQ(StartupRules::ChooseProgramFolder({true, true}, "C:\\Tools\\Tarvex", "D:\\"), "C:\\Tools\\Tarvex");
-}
-
-TEST(ProgramFolder, OtherwiseTheCurrentDirectory) {
     EXPECT_EQ(StartupRules::ChooseProgramFolder({false, true}, "C:\\Tools\\Tarvex", "D:\\Work"), "D:\\Work");
 }
 
@@ -51,12 +45,9 @@ TEST(ProgramFolder, FoldersToCreateAreThemesAutoInstallAndExportButNotHelp) {
 
 using StartupRules::PreferencesAtStart;
 
-TEST(PreferencesAtStart, AMissingSettingsFileIsAFirstRunEvenWithSetup) {
+TEST(PreferencesAtStart, AMissingSettingsFileIsAFirstRunEvenWithSetupWhichElseOpensThem) {
     EXPECT_EQ(StartupRules::ChoosePreferencesAtStart(false, {false, false}), PreferencesAtStart::FirstRun);
     EXPECT_EQ(StartupRules::ChoosePreferencesAtStart(false, {true, true}), PreferencesAtStart::FirstRun);
-}
-
-TEST(PreferencesAtStart, SetupOpensThemWhenTheSettingsExist) {
     EXPECT_EQ(StartupRules::ChoosePreferencesAtStart(true, {false, true}), PreferencesAtStart::Setup);
     EXPECT_EQ(StartupRules::ChoosePreferencesAtStart(true, {true, false}), PreferencesAtStart::None);
 }
@@ -66,11 +57,6 @@ TEST(StartupHotspots, OpenEntriesFromZeroToTheNumberOfHotspotsInEntryOrder) {
     EXPECT_EQ(StartupRules::StartupHotspotsToOpen(entries, 3), (std::vector<int>{2, 0, 3, 1, 3}));
 }
 
-TEST(StartupHotspots, NoneByDefault) {
-    SettingsRec defaults;
-    EXPECT_TRUE(StartupRules::StartupHotspotsToOpen(defaults.GenStartupHotspot, defaults.NoOfHotSpots()).empty());
-}
-
 TEST(StartupHotspots, TheDefaultHotspotAloneCanBeOpened) {
     std::array<std::int16_t, 10> entries = {1, 0, -1, -1, -1, -1, -1, -1, -1, -1};
     EXPECT_EQ(StartupRules::StartupHotspotsToOpen(entries, 0), (std::vector<int>{0}));
@@ -78,12 +64,9 @@ TEST(StartupHotspots, TheDefaultHotspotAloneCanBeOpened) {
 
 using StartupRules::TrayAction;
 
-TEST(TrayCallback, DoubleClickChoosesPreferencesRightButtonUpPopsUpTheMenu) {
+TEST(TrayCallback, DoubleClickChoosesPreferencesRightButtonUpPopsUpTheMenuTheRestIsIgnored) {
     EXPECT_EQ(StartupRules::TrayCallbackAction(515), TrayAction::ChoosePreferences);
     EXPECT_EQ(StartupRules::TrayCallbackAction(517), TrayAction::PopUpMenu);
-}
-
-TEST(TrayCallback, EveryOtherMouseMessageIsIgnored) {
     for (int message : {0, 512, 513, 514, 516, 518, 519, 520, 521, 522, 1024})
         EXPECT_EQ(StartupRules::TrayCallbackAction(message), TrayAction::None) << message;
 }

@@ -29,23 +29,14 @@ HotspotRec ShowMenu(const char* name) {
 } // namespace
 
 TEST(DefaultHotspot, CoversTheDesktopRightOfTheIconColumnOnALeftClick) {
-    HotspotRec hotspot = DefaultHotspot(1024, 768);
-    EXPECT_EQ(hotspot.x1, 48);
-    EXPECT_EQ(hotspot.x2, 1024);
-    EXPECT_EQ(hotspot.y1, 0);
-    EXPECT_EQ(hotspot.y2, 768);
-    EXPECT_EQ(hotspot.App, "Desktop");
-    EXPECT_EQ(hotspot.GroupName, "Default");
-    EXPECT_EQ(hotspot.Menuname, "");
-    EXPECT_EQ(hotspot.FileTypeMask, "");
-    EXPECT_EQ(hotspot.Menuleft, 0);
-    EXPECT_EQ(hotspot.Menutop, 0);
-    EXPECT_EQ(hotspot.MenuType, 0);
-    EXPECT_FALSE(hotspot.OnMouse);
-    EXPECT_EQ(hotspot.MouseButton, 0) << "left click";
-    EXPECT_EQ(hotspot.UseHotKey, 0);
-    EXPECT_EQ(hotspot.Hotkey, 0);
-    EXPECT_FALSE(hotspot.ShiftHotKey);
+    HotspotRec expected;
+    expected.x1 = 48;
+    expected.x2 = 1024;
+    expected.y2 = 768;
+    expected.App = "Desktop";
+    expected.GroupName = "Default";
+    expected.MouseButton = 0; // left click
+    EXPECT_EQ(DefaultHotspot(1024, 768), expected);
 }
 
 TEST(DeclaresHotspots, OnlyASectionWithTheCountKeyHoldsHotspots) {
@@ -73,17 +64,11 @@ TEST(EnsureDefaultHotspot, KeepsDeclaredHotspotsEvenAZeroRecord) {
     EXPECT_EQ(none, std::vector<HotspotRec>{DefaultHotspot(800, 600)});
 }
 
-TEST(MenuKindOf, TheFixedMapping) {
-    EXPECT_EQ(MenuKindOf(0), 2);
-    EXPECT_EQ(MenuKindOf(1), 3);
-    EXPECT_EQ(MenuKindOf(2), 0);
-    EXPECT_EQ(MenuKindOf(3), 1);
-    EXPECT_EQ(MenuKindOf(4), 4);
-    EXPECT_EQ(MenuKindOf(5), 5);
+TEST(MenuKindOf, TheFixedMappingAndProgramsAndCommandsRunTheRestOpenMenus) {
+    const std::uint8_t kinds[] = {2, 3, 0, 1, 4, 5};
+    for (std::uint8_t type = 0; type <= 5; ++type)
+        EXPECT_EQ(MenuKindOf(type), kinds[type]) << int{type};
     EXPECT_EQ(MenuKindOf(255), 255);
-}
-
-TEST(ActionOf, ProgramsAndCommandsRunTheRestOpenMenus) {
     EXPECT_EQ(ActionOf(kShowFolder), Action::OpenMenu);
     EXPECT_EQ(ActionOf(kShowMenu), Action::OpenMenu);
     EXPECT_EQ(ActionOf(kRunProgram), Action::RunProgram);

@@ -2,7 +2,7 @@
 // and a message-box handler that answers with a chosen button.
 #pragma once
 
-#include "core/message_box.h"
+#include "support/answered_message_boxes.h"
 #include "core/profile.h"
 #include "core/text.h"
 
@@ -10,8 +10,6 @@
 #include <memory>
 #include <sstream>
 #include <string>
-#include <utility>
-#include <vector>
 
 // "[SECTION]" and "key=value" lines; section names match without regard to case.
 inline SectionReader ReaderOf(const std::string& text) {
@@ -42,18 +40,4 @@ inline std::string TextOf(const ProfileWrites& writes) {
     return text;
 }
 
-class FakeMessageBoxes {
-public:
-    explicit FakeMessageBoxes(int answer)
-        : previous_(MessageBoxes::SetHandler([this, answer](const MessageBoxes::Request& request) {
-              requests.push_back(request);
-              return answer;
-          })) {}
-    ~FakeMessageBoxes() { MessageBoxes::SetHandler(std::move(previous_)); }
-    FakeMessageBoxes(const FakeMessageBoxes&) = delete;
-    FakeMessageBoxes& operator=(const FakeMessageBoxes&) = delete;
-    std::vector<MessageBoxes::Request> requests;
-
-private:
-    MessageBoxes::Handler previous_;
-};
+using FakeMessageBoxes = TestSupport::AnsweredMessageBoxes;

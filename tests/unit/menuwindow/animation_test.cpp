@@ -46,17 +46,13 @@ void ExpectWellFormed(const AnimationPlan& plan, Size window) {
 
 } // namespace
 
-TEST(AnimationChoice, KindNumbers) {
-    EXPECT_EQ(AnimationKindOf(0), AnimationKind::None);
-    EXPECT_EQ(AnimationKindOf(1), AnimationKind::Unroll);
-    EXPECT_EQ(AnimationKindOf(2), AnimationKind::Slide);
-    EXPECT_EQ(AnimationKindOf(3), AnimationKind::Ripple);
-    EXPECT_EQ(AnimationKindOf(4), AnimationKind::Fade);
-    EXPECT_EQ(AnimationKindOf(5), AnimationKind::None);
+TEST(AnimationChoice, KindNumbersAndVerticalMenusUseTypeAndHorizontalOnesHType) {
+    const AnimationKind kinds[] = {AnimationKind::None,   AnimationKind::Unroll, AnimationKind::Slide,
+                                   AnimationKind::Ripple, AnimationKind::Fade,   AnimationKind::None};
+    for (std::int16_t type = 0; type <= 5; ++type)
+        EXPECT_EQ(AnimationKindOf(type), kinds[type]) << type;
     EXPECT_EQ(AnimationKindOf(-1), AnimationKind::None);
-}
 
-TEST(AnimationChoice, VerticalMenusUseTypeAndHorizontalOnesHType) {
     AnimationSettings settings = Settings(1, 4);
     EXPECT_EQ(PlanMenuAnimation(settings, false, kVertical).kind, AnimationKind::Unroll);
     EXPECT_EQ(PlanMenuAnimation(settings, true, kHorizontal).kind, AnimationKind::Fade);
@@ -65,22 +61,10 @@ TEST(AnimationChoice, VerticalMenusUseTypeAndHorizontalOnesHType) {
     EXPECT_EQ(PlanMenuAnimation(settings, true, kHorizontal).kind, AnimationKind::Ripple);
 }
 
-TEST(AnimationChoice, SettingsAreTakenFromTheirKeys) {
-    SettingsRec rec;
-    rec.GenAnimationOn = 0;
-    rec.AnimationType = 2;
-    rec.AnimationHType = 3;
-    rec.AnimationSpeed = 5;
-    AnimationSettings settings = AnimationSettingsFrom(rec);
-    EXPECT_EQ(settings.GenAnimationOn, 0);
-    EXPECT_EQ(settings.AnimationType, 2);
-    EXPECT_EQ(settings.AnimationHType, 3);
-    EXPECT_EQ(settings.AnimationSpeed, 5);
+TEST(AnimationChoice, OffOrEmptyMeansNoFrames) {
     // The defaults animate nothing: type 0.
     EXPECT_TRUE(PlanMenuAnimation(AnimationSettingsFrom(SettingsRec{}), false, kVertical).frames.empty());
-}
 
-TEST(AnimationChoice, OffMeansNoFrames) {
     AnimationSettings settings = Settings(3, 3);
     settings.GenAnimationOn = 0;
     AnimationPlan plan = PlanMenuAnimation(settings, false, kVertical);
@@ -142,15 +126,10 @@ TEST(AnimationFrames, UnrollUncoversFromTheTopWithTheImageInPlace) {
     EXPECT_LT(plan.frames[plan.frames.size() - 2].visible.bottom, kVertical.height);
     // Eased: more than the even share is uncovered after the first frame.
     EXPECT_GT(plan.frames.front().visible.bottom, kVertical.height / static_cast<int>(plan.frames.size()));
-}
-
-TEST(AnimationFrames, HorizontalUnrollGrowsToTheRight) {
-    AnimationPlan plan = PlanMenuAnimation(Settings(0, 1), true, kHorizontal);
-    const Rect first = plan.frames.front().visible;
-    EXPECT_EQ(first.left, 0);
-    EXPECT_EQ(first.top, 0);
-    EXPECT_EQ(first.bottom, kHorizontal.height);
-    EXPECT_LT(first.right, kHorizontal.width);
+    // A horizontal menu unrolls to the right.
+    const Rect across = PlanMenuAnimation(Settings(0, 1), true, kHorizontal).frames.front().visible;
+    EXPECT_EQ(across, (Rect{0, 0, across.right, kHorizontal.height}));
+    EXPECT_LT(across.right, kHorizontal.width);
 }
 
 TEST(AnimationFrames, SlideShowsTheImagesFarEndFirst) {
@@ -198,13 +177,10 @@ TEST(AnimationFrames, RippleStripsCoverTheWindowAndSqueezeTheImage) {
         return most;
     };
     EXPECT_GT(cut(first), cut(plan.frames[plan.frames.size() - 3]));
-}
-
-TEST(AnimationFrames, HorizontalRippleRunsInColumns) {
-    AnimationPlan plan = PlanMenuAnimation(Settings(0, 3), true, {400, 80});
-    const AnimationFrame& first = plan.frames.front();
-    ASSERT_EQ(first.blits.size(), 100u);
-    EXPECT_EQ(first.blits[1].target, (Rect{4, 0, 8, 80}));
-    EXPECT_EQ(first.blits[1].source.left, 4);
-    EXPECT_EQ(first.blits[1].source.right, 8);
+    // A horizontal menu ripples in columns.
+    const AnimationFrame columns = PlanMenuAnimation(Settings(0, 3), true, {400, 80}).frames.front();
+    ASSERT_EQ(columns.blits.size(), 100u);
+    EXPECT_EQ(columns.blits[1].target, (Rect{4, 0, 8, 80}));
+    EXPECT_EQ(columns.blits[1].source.left, 4);
+    EXPECT_EQ(columns.blits[1].source.right, 8);
 }

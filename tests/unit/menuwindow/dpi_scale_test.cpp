@@ -2,33 +2,17 @@
 
 #include <gtest/gtest.h>
 
-TEST(DpiScale, LeavesSizesAlone_At96Dpi) {
-    EXPECT_EQ(Dpi::Scale(20, 96), 20);
-    EXPECT_EQ(Dpi::Scale(0, 96), 0);
-    EXPECT_EQ(Dpi::Scale(-6, 96), -6);
-}
-
-TEST(DpiScale, ScalesByTheDpiRatio) {
-    EXPECT_EQ(Dpi::Scale(20, 144), 30);
-    EXPECT_EQ(Dpi::Scale(22, 192), 44);
-    EXPECT_EQ(Dpi::Scale(16, 120), 20);
-}
-
-TEST(DpiScale, RoundsToTheNearestPixelWithHalvesAwayFromZero) {
-    EXPECT_EQ(Dpi::Scale(15, 120), 19); // 18.75
-    EXPECT_EQ(Dpi::Scale(3, 120), 4);   // 3.75
-    EXPECT_EQ(Dpi::Scale(1, 120), 1);   // 1.25
-    EXPECT_EQ(Dpi::Scale(1, 144), 2);   // 1.5
-    EXPECT_EQ(Dpi::Scale(2, 120), 3);   // 2.5
-    EXPECT_EQ(Dpi::Scale(-1, 144), -2); // -1.5
-    EXPECT_EQ(Dpi::Scale(-3, 120), -4); // -3.75
-}
-
-TEST(DpiScale, UnknownDpiLeavesTheSizeUnscaled) {
-    EXPECT_EQ(Dpi::Scale(22, 0), 22);
-    EXPECT_EQ(Dpi::Scale(22, -96), 22);
-}
-
-TEST(DpiScale, LargeSizesDoNotOverflow) {
-    EXPECT_EQ(Dpi::Scale(32767, 480), 163835);
+TEST(DpiScale, ScalesByTheDpiRatioRoundingHalvesAwayFromZero) {
+    const struct {
+        int size, dpi, scaled;
+    } cases[] = {
+        {20, 96, 20},         {0, 96, 0},    {-6, 96, -6},               // 96 DPI leaves sizes alone
+        {20, 144, 30},        {22, 192, 44}, {16, 120, 20},              // the ratio
+        {15, 120, 19},        {3, 120, 4},   {1, 120, 1},   {1, 144, 2}, // 18.75, 3.75, 1.25, 1.5
+        {2, 120, 3},          {-1, 144, -2}, {-3, 120, -4},              // 2.5, -1.5, -3.75
+        {22, 0, 22},          {22, -96, 22},                             // an unknown DPI
+        {32767, 480, 163835},                                            // no overflow
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Dpi::Scale(c.size, c.dpi), c.scaled) << c.size << " at " << c.dpi;
 }

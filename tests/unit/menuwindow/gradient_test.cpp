@@ -58,17 +58,12 @@ TEST(GradientColours, PartsAreSplitByTheirPlaceInTheColourValue) {
     EXPECT_EQ(colours[62], 0x500101); // 16 + 62 * 65/63 = 79.97
 }
 
-TEST(GradientColours, PartsAreClampedTo255) {
-    // White to white would reach 255 + 62/63.
-    std::vector<Colour> colours = GradientColours({0xFFFFFF, 0xFFFFFF, 0, false});
-    for (Colour c : colours)
+TEST(GradientColours, PartsAreClampedTo0And255) {
+    // White to white would reach 255 + 62/63; wrapped black to black turns at once and
+    // runs below 0.
+    for (Colour c : GradientColours({0xFFFFFF, 0xFFFFFF, 0, false}))
         EXPECT_EQ(c, 0xFFFFFF);
-}
-
-TEST(GradientColours, PartsAreClampedAt0) {
-    // Wrapped black to black turns at once and runs below 0.
-    std::vector<Colour> colours = GradientColours({0x000000, 0x000000, 0, true});
-    for (Colour c : colours)
+    for (Colour c : GradientColours({0x000000, 0x000000, 0, true}))
         EXPECT_EQ(c, 0);
 }
 
@@ -108,7 +103,7 @@ TEST(GradientColours, WrapTurnsAFallingPartBackUp) {
     EXPECT_GT(Red(colours[62]), 200);
 }
 
-TEST(GradientBands, LeftToRightBandsAreUprightStripsAcrossTheWidth) {
+TEST(GradientBands, LeftToRightStripsAcrossTheWidthAndTopToBottomStripsDownTheHeight) {
     std::vector<ColourBand> bands = GradientBands({126, 10}, {0x000000, 0x0000FF, kGradientLeftToRight, false});
     ASSERT_EQ(bands.size(), 63u);
     std::vector<Colour> colours = GradientColours({0x000000, 0x0000FF, kGradientLeftToRight, false});
@@ -116,10 +111,7 @@ TEST(GradientBands, LeftToRightBandsAreUprightStripsAcrossTheWidth) {
         EXPECT_EQ(bands[i].rect, (Rect{2 * i, 0, 2 * i + 2, 10}));
         EXPECT_EQ(bands[i].colour, colours[i]);
     }
-}
-
-TEST(GradientBands, TopToBottomBandsAreLyingStripsDownTheHeight) {
-    std::vector<ColourBand> bands = GradientBands({40, 189}, {0x000000, 0xFFFFFF, kGradientTopToBottom, false});
+    bands = GradientBands({40, 189}, {0x000000, 0xFFFFFF, kGradientTopToBottom, false});
     ASSERT_EQ(bands.size(), 63u);
     EXPECT_EQ(bands[0].rect, (Rect{0, 0, 40, 3}));
     EXPECT_EQ(bands[62].rect, (Rect{0, 186, 40, 189}));
@@ -167,22 +159,17 @@ TEST(GradientBands, DiagonalRunsFromTheTopLeftToTheBottomRightCorner) {
     EXPECT_EQ(ColourAt(bands, {64, 10}), colours[10]);
     EXPECT_EQ(ColourAt(bands, {10, 40}), colours[5]);
     EXPECT_EQ(ColourAt(bands, {125, 0}), colours[0]);
+    // Every pixel of a surface that is not a multiple of the bands is covered.
+    std::vector<ColourBand> small = GradientBands({30, 20}, spec);
+    for (int y = 0; y < 20; ++y)
+        for (int x = 0; x < 30; ++x)
+            EXPECT_NE(ColourAt(small, {x, y}), -1) << x << "," << y;
 }
 
 TEST(GradientBands, EveryOtherTypeIsDiagonal) {
-    std::vector<ColourBand> seven = GradientBands({126, 63}, {0, 0xFF, 7, false});
-    std::vector<ColourBand> negative = GradientBands({126, 63}, {0, 0xFF, -1, false});
     std::vector<ColourBand> two = GradientBands({126, 63}, {0, 0xFF, 2, false});
-    EXPECT_EQ(seven, two);
-    EXPECT_EQ(negative, two);
-}
-
-TEST(GradientBands, DiagonalCoversEveryPixel) {
-    std::vector<ColourBand> bands = GradientBands({30, 20}, {0, 0xFF, 2, false});
-    for (int y = 0; y < 20; ++y) {
-        for (int x = 0; x < 30; ++x)
-            EXPECT_NE(ColourAt(bands, {x, y}), -1) << x << "," << y;
-    }
+    EXPECT_EQ(GradientBands({126, 63}, {0, 0xFF, 7, false}), two);
+    EXPECT_EQ(GradientBands({126, 63}, {0, 0xFF, -1, false}), two);
 }
 
 TEST(GradientBands, EmptySurfaceHasNoBands) {

@@ -47,12 +47,20 @@ DisplayEntry Entry(std::uint8_t type, std::string path, std::string iconPath = "
 
 } // namespace
 
-TEST(SourceOf, ByTheContentKind) {
-    EXPECT_EQ(SourceOf(kItemFolderPath), ListSource::Folder);
-    EXPECT_EQ(SourceOf(kItemMenuName), ListSource::MenuItems);
-    EXPECT_EQ(SourceOf(kItemTaskList), ListSource::TaskList);
-    EXPECT_EQ(SourceOf(kItemFilename), ListSource::None);
-    EXPECT_EQ(SourceOf(kItemCommandName), ListSource::None);
+TEST(SourceOf, FoldersMenusAndTheTaskListOpenSubMenusOfTheirOwnKind) {
+    const struct {
+        std::uint8_t type;
+        ListSource source;
+        bool opens;
+    } cases[] = {{kItemFolderPath, ListSource::Folder, true},
+                 {kItemMenuName, ListSource::MenuItems, true},
+                 {kItemTaskList, ListSource::TaskList, true},
+                 {kItemFilename, ListSource::None, false},
+                 {kItemCommandName, ListSource::None, false}};
+    for (const auto& c : cases) {
+        EXPECT_EQ(SourceOf(c.type), c.source) << int{c.type};
+        EXPECT_EQ(OpensSubMenu(c.type), c.opens) << int{c.type};
+    }
     EXPECT_EQ(SourceOf(9), ListSource::None);
 }
 
@@ -79,9 +87,8 @@ TEST(MenuItemsList, TheMenusItemsInChainOrderWithEveryField) {
 
 TEST(MenuItemsList, NoMenuNoItems) {
     MenuTable table = TwoMenus();
-    EXPECT_EQ(MenuItemsList(table, 0).Count(), 0);
-    EXPECT_EQ(MenuItemsList(table, 3).Count(), 0);
-    EXPECT_EQ(MenuItemsList(table, -1).Count(), 0);
+    for (int number : {0, 3, -1})
+        EXPECT_EQ(MenuItemsList(table, number).Count(), 0) << number;
 }
 
 TEST(FolderList, KeepsTheListingsCountsWithTheMoreItemFrom1) {
@@ -101,14 +108,6 @@ TEST(FolderList, KeepsTheListingsCountsWithTheMoreItemFrom1) {
     EXPECT_EQ(none.moreItem, 0);
 }
 
-TEST(OpensSubMenu, FoldersMenusAndTheTaskList) {
-    EXPECT_FALSE(OpensSubMenu(kItemFilename));
-    EXPECT_FALSE(OpensSubMenu(kItemCommandName));
-    EXPECT_TRUE(OpensSubMenu(kItemFolderPath));
-    EXPECT_TRUE(OpensSubMenu(kItemMenuName));
-    EXPECT_TRUE(OpensSubMenu(kItemTaskList));
-}
-
 TEST(MeasureItems, TextWidthsArrowsAndHotKeys) {
     DisplayList list = MenuItemsList(TwoMenus(), 2);
     list.entries.push_back(Entry(kItemFilename, "a.exe"));
@@ -117,10 +116,7 @@ TEST(MeasureItems, TextWidthsArrowsAndHotKeys) {
     ASSERT_EQ(measures.size(), 2u);
     EXPECT_EQ(measures[0], (ItemMeasure{4 * kButtonCharWidth, true, true, kButtonCharWidth}));
     EXPECT_EQ(measures[1], (ItemMeasure{3 * kButtonCharWidth, false, false, 0}));
-}
-
-TEST(HotkeyLabel, IsTheKeyUpperCased) {
-    EXPECT_EQ(HotkeyLabel("q"), "Q");
+    EXPECT_EQ(HotkeyLabel("q"), "Q") << "the key is shown upper-cased";
     EXPECT_EQ(HotkeyLabel("F5"), "F5");
 }
 

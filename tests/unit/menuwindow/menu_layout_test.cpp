@@ -14,11 +14,6 @@ namespace {
 // icons, no frame (and the title inside it), widths 0 to 300.
 MenuLook TestLook() {
     MenuLook look = LookFromSettings(SettingsRec{});
-    look.TitleVSize = 22;
-    look.ButtonVSize = 20;
-    look.ButtonTextOfset = 8;
-    look.ButtonMinWidth = 0;
-    look.ButtonMaxWidth = 300;
     look.MenuNoFrames = 1;
     look.TitleOverlap = false;
     look.TwinScrollButtons = false;
@@ -36,48 +31,48 @@ std::vector<ItemMeasure> Texts(std::initializer_list<int> widths) {
     return items;
 }
 
+constexpr int kScreen = 768;
+
+MenuLayout Lay(const MenuLook& look, const std::vector<ItemMeasure>& items, bool horizontal = false,
+               int available = kScreen) {
+    return LayOutMenu(items, Options(look, horizontal), available, 0);
+}
+
 // Width of an item whose text is t pixels wide, with the test look's margins.
 int Need(int t) {
     return 8 + t + kTextRightMargin;
 }
 
-constexpr int kScreen = 768;
-
 } // namespace
 
-TEST(LayOutMenu, VerticalMenuIsAsWideAsItsWidestItem) {
-    MenuLayout layout = LayOutMenu(Texts({60, 100, 80}), Options(TestLook()), kScreen, 0);
+TEST(LayOutMenu, VerticalMenuIsAsWideAsItsWidestItemWithinTheMinimumAndMaximum) {
+    MenuLook look = TestLook();
+    MenuLayout layout = Lay(look, Texts({60, 100, 80}));
     EXPECT_EQ(layout.buttons.buttonWidth, Need(100));
     EXPECT_EQ(layout.window, (Size{Need(100), 22 + 60}));
     EXPECT_EQ(layout.titlePlace, TitlePlace::Top);
     EXPECT_EQ(layout.title, (Rect{0, 0, Need(100), 22}));
     EXPECT_EQ(layout.surface, (Rect{0, 22, Need(100), 82}));
-}
 
-TEST(LayOutMenu, WidthIsKeptWithinTheMinimumAndMaximum) {
-    MenuLook look = TestLook();
-    EXPECT_EQ(LayOutMenu(Texts({500}), Options(look), kScreen, 0).buttons.buttonWidth, 300);
+    EXPECT_EQ(Lay(look, Texts({500})).buttons.buttonWidth, 300);
     look.ButtonMinWidth = 200;
-    EXPECT_EQ(LayOutMenu(Texts({50}), Options(look), kScreen, 0).buttons.buttonWidth, 200);
+    EXPECT_EQ(Lay(look, Texts({50})).buttons.buttonWidth, 200);
     look.ButtonMaxWidth = 150; // below the minimum: the maximum wins
-    EXPECT_EQ(LayOutMenu(Texts({50}), Options(look), kScreen, 0).buttons.buttonWidth, 150);
+    EXPECT_EQ(Lay(look, Texts({50})).buttons.buttonWidth, 150);
     look.ButtonMinWidth = 0;
     look.ButtonMaxWidth = 0; // no maximum
-    EXPECT_EQ(LayOutMenu(Texts({500}), Options(look), kScreen, 0).buttons.buttonWidth, Need(500));
-}
+    EXPECT_EQ(Lay(look, Texts({500})).buttons.buttonWidth, Need(500));
 
-TEST(LayOutMenu, EmptyMenuKeepsTheSmallestWidth) {
-    MenuLayout layout = LayOutMenu({}, Options(TestLook()), kScreen, 0);
-    EXPECT_EQ(layout.window, (Size{kSmallestMenuWidth, 22}));
-    EXPECT_EQ(layout.surface.Height(), 0);
+    MenuLayout empty = Lay(TestLook(), {});
+    EXPECT_EQ(empty.window, (Size{kSmallestMenuWidth, 22}));
+    EXPECT_EQ(empty.surface.Height(), 0);
 }
 
 TEST(LayOutMenu, IconsAndColumnsWidenTheMenu) {
     MenuLook look = TestLook();
     look.ButtonIcons = true;
     look.ButtonIconSize = 16;
-    std::vector<ItemMeasure> items = {{100, false, false, 0}, {40, true, true, 10}};
-    MenuLayout layout = LayOutMenu(items, Options(look), kScreen, 0);
+    MenuLayout layout = Lay(look, {{100, false, false, 0}, {40, true, true, 10}});
     int hotkey = kHotkeySymbolWidth + 2 * kHotkeyGap + 10;
     EXPECT_EQ(layout.columns, (Columns{hotkey, kArrowColumn}));
     EXPECT_EQ(layout.buttons.buttonWidth, kIconMargin + 16 + Need(100) + hotkey + kArrowColumn);
@@ -87,7 +82,7 @@ TEST(LayOutMenu, ItemWiderThanTheMaximumEndsInEllipsis) {
     auto measure = [](std::string_view text) { return 6 * static_cast<int>(text.size()); };
     std::string label(80, 'w');
     std::vector<ItemMeasure> items = {{measure(label), false, false, 0}};
-    MenuLayout layout = LayOutMenu(items, Options(TestLook()), kScreen, 0);
+    MenuLayout layout = Lay(TestLook(), items);
     const MenuMetrics metrics = Options(TestLook()).metrics;
     ButtonParts parts =
         PartsOf(ButtonRect(layout.buttons, 1), items[0], ColumnsFor(layout, items[0], metrics), metrics);
@@ -97,55 +92,47 @@ TEST(LayOutMenu, ItemWiderThanTheMaximumEndsInEllipsis) {
     EXPECT_LE(measure(shown), parts.text.Width());
 }
 
-TEST(LayOutMenu, TitleAtTheBottomStandsUnderTheButtons) {
+TEST(LayOutMenu, TitleAtTheBottomUnderTheButtonsOrAtTheLeftAsTallAsThem) {
     MenuLook look = TestLook();
     look.TitlePosition = 1;
-    MenuLayout layout = LayOutMenu(Texts({100, 100}), Options(look), kScreen, 0);
-    EXPECT_EQ(layout.surface, (Rect{0, 0, Need(100), 40}));
-    EXPECT_EQ(layout.title, (Rect{0, 40, Need(100), 62}));
-    EXPECT_EQ(layout.window, (Size{Need(100), 62}));
-}
+    MenuLayout bottom = Lay(look, Texts({100, 100}));
+    EXPECT_EQ(bottom.surface, (Rect{0, 0, Need(100), 40}));
+    EXPECT_EQ(bottom.title, (Rect{0, 40, Need(100), 62}));
+    EXPECT_EQ(bottom.window, (Size{Need(100), 62}));
 
-TEST(LayOutMenu, VerticalTitleAtTheLeftIsAsTallAsTheButtons) {
-    MenuLook look = TestLook();
     look.TitlePosition = 2;
-    MenuLayout layout = LayOutMenu(Texts({100, 100, 100}), Options(look), kScreen, 0);
-    EXPECT_EQ(layout.titlePlace, TitlePlace::Left);
-    EXPECT_EQ(layout.title, (Rect{0, 0, 22, 60}));
-    EXPECT_EQ(layout.surface, (Rect{22, 0, 22 + Need(100), 60}));
-    EXPECT_EQ(layout.window, (Size{22 + Need(100), 60}));
+    MenuLayout left = Lay(look, Texts({100, 100, 100}));
+    EXPECT_EQ(left.titlePlace, TitlePlace::Left);
+    EXPECT_EQ(left.title, (Rect{0, 0, 22, 60}));
+    EXPECT_EQ(left.surface, (Rect{22, 0, 22 + Need(100), 60}));
+    EXPECT_EQ(left.window, (Size{22 + Need(100), 60}));
 }
 
-TEST(LayOutMenu, FrameLinesSurroundEverything) {
+TEST(LayOutMenu, FrameLinesSurroundEverythingUnlessTheTitleStandsOverThem) {
     MenuLook look = TestLook();
     look.MenuNoFrames = 0;
-    MenuLayout one = LayOutMenu(Texts({100}), Options(look), kScreen, 0);
+    MenuLayout one = Lay(look, Texts({100}));
     EXPECT_EQ(one.title, (Rect{1, 1, 1 + Need(100), 23}));
     EXPECT_EQ(one.surface, (Rect{1, 23, 1 + Need(100), 43}));
     EXPECT_EQ(one.window, (Size{2 + Need(100), 44}));
     look.Menu3DFrame2 = true;
-    MenuLayout two = LayOutMenu(Texts({100}), Options(look), kScreen, 0);
+    MenuLayout two = Lay(look, Texts({100}));
     EXPECT_EQ(two.surface, (Rect{2, 24, 2 + Need(100), 44}));
     EXPECT_EQ(two.window, (Size{4 + Need(100), 46}));
     EXPECT_EQ(LayOutMenu(Texts({100}), Options(look, false, 192), kScreen, 0).surface.left, 4);
-}
 
-TEST(LayOutMenu, TitleOverTheFrameReachesTheWindowEdges) {
-    MenuLook look = TestLook();
-    look.MenuNoFrames = 0;
-    look.Menu3DFrame2 = true;
     look.TitleOverlap = true;
-    MenuLayout top = LayOutMenu(Texts({100}), Options(look), kScreen, 0);
+    MenuLayout top = Lay(look, Texts({100}));
     EXPECT_EQ(top.title, (Rect{0, 0, top.window.width, 24}));
     EXPECT_EQ(top.surface.top, 24);
     look.TitlePosition = 1;
-    MenuLayout bottom = LayOutMenu(Texts({100}), Options(look), kScreen, 0);
-    EXPECT_EQ(bottom.title, (Rect{0, 22, bottom.window.width, bottom.window.height}));
+    MenuLayout under = Lay(look, Texts({100}));
+    EXPECT_EQ(under.title, (Rect{0, 22, under.window.width, under.window.height}));
     look.TitlePosition = 2;
-    MenuLayout left = LayOutMenu(Texts({100}), Options(look), kScreen, 0);
+    MenuLayout left = Lay(look, Texts({100}));
     EXPECT_EQ(left.title, (Rect{0, 0, 24, left.window.height}));
     look.TitleOverlap = false;
-    EXPECT_EQ(LayOutMenu(Texts({100}), Options(look), kScreen, 0).title, (Rect{2, 2, 24, 22}));
+    EXPECT_EQ(Lay(look, Texts({100})).title, (Rect{2, 2, 24, 22}));
 }
 
 TEST(LayOutMenu, InactiveWindowUsesTheInactiveOverlapOnlyWithTheInactiveLook) {
@@ -161,8 +148,7 @@ TEST(LayOutMenu, InactiveWindowUsesTheInactiveOverlapOnlyWithTheInactiveLook) {
 
 TEST(LayOutMenu, TallMenuShowsWhatFitsTheScreenAndAScrollButtonAtTheCut) {
     // Room for the title and 5 buttons, with 10 pixels to spare.
-    MenuLayout layout = LayOutMenu(Texts({100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100, 100}),
-                                   Options(TestLook()), 22 + 5 * 20 + 10, 0);
+    MenuLayout layout = Lay(TestLook(), std::vector<ItemMeasure>(12, {100, false, false, 0}), false, 22 + 5 * 20 + 10);
     EXPECT_EQ(layout.buttons.view.slots, 5);
     EXPECT_EQ(layout.window.height, 22 + 100);
     std::vector<ScrollButton> scroll = ScrollButtons(layout.buttons);
@@ -170,17 +156,16 @@ TEST(LayOutMenu, TallMenuShowsWhatFitsTheScreenAndAScrollButtonAtTheCut) {
     EXPECT_EQ(scroll[0], (ScrollButton{{0, 80, Need(100), 100}, true}));
     EXPECT_FALSE(IsDrawn(layout.buttons.view, 5));
     EXPECT_EQ(HitTest(layout.buttons, {5, 85}).kind, Hit::Kind::ScrollTowardsEnd);
-}
 
-TEST(LayOutMenu, FrameAndTitleCountAgainstTheScreenRoom) {
+    // The frame and the title count against the room; a title at the left takes no height.
     MenuLook look = TestLook();
     look.MenuNoFrames = 0;
     look.Menu3DFrame2 = true;
-    std::vector<ItemMeasure> items = Texts({10, 10, 10, 10, 10, 10, 10, 10, 10, 10});
-    EXPECT_EQ(LayOutMenu(items, Options(look), 4 + 22 + 200, 0).buttons.view.slots, 10);
-    EXPECT_EQ(LayOutMenu(items, Options(look), 4 + 22 + 199, 0).buttons.view.slots, 9);
-    look.TitlePosition = 2; // a title at the left takes no height
-    EXPECT_EQ(LayOutMenu(items, Options(look), 4 + 200, 0).buttons.view.slots, 10);
+    std::vector<ItemMeasure> items(10, {10, false, false, 0});
+    EXPECT_EQ(Lay(look, items, false, 4 + 22 + 200).buttons.view.slots, 10);
+    EXPECT_EQ(Lay(look, items, false, 4 + 22 + 199).buttons.view.slots, 9);
+    look.TitlePosition = 2;
+    EXPECT_EQ(Lay(look, items, false, 4 + 200).buttons.view.slots, 10);
 }
 
 TEST(LayOutMenu, SizesFollowTheDpi) {
@@ -190,80 +175,62 @@ TEST(LayOutMenu, SizesFollowTheDpi) {
     EXPECT_EQ(layout.buttons.buttonWidth, 12 + 150 + 12);
 }
 
-TEST(LayOutMenu, HorizontalMenuWithLockedWidthHasEqualButtons) {
+TEST(LayOutMenu, HorizontalButtonsShareOneWidthWithHorzLockWidthElseEachFitsItsText) {
     MenuLook look = TestLook();
-    look.HorzLockWidth = true;
-    MenuLayout layout = LayOutMenu(Texts({40, 100, 60}), Options(look, true), 1024, 0);
-    EXPECT_EQ(layout.buttons.widths, (std::vector<int>{Need(100), Need(100), Need(100)}));
-    EXPECT_EQ(layout.titlePlace, TitlePlace::None); // HorzNoTitlebar is on by default
-    EXPECT_EQ(layout.window, (Size{3 * Need(100) + 1, 20}));
-    EXPECT_FALSE(layout.ownColumns);
-}
+    MenuLayout locked = Lay(look, Texts({40, 100, 60}), true, 1024);
+    EXPECT_EQ(locked.buttons.widths, (std::vector<int>{Need(100), Need(100), Need(100)}));
+    EXPECT_EQ(locked.titlePlace, TitlePlace::None); // HorzNoTitlebar is on by default
+    EXPECT_EQ(locked.window, (Size{3 * Need(100) + 1, 20}));
+    EXPECT_FALSE(locked.ownColumns);
 
-TEST(LayOutMenu, HorizontalMenuWithoutLockedWidthFitsEachButtonToItsText) {
-    MenuLook look = TestLook();
     look.HorzLockWidth = false;
     std::vector<ItemMeasure> items = {{40, false, false, 0}, {100, true, false, 0}, {60, false, false, 0}};
-    MenuLayout layout = LayOutMenu(items, Options(look, true), 1024, 0);
-    EXPECT_EQ(layout.buttons.widths, (std::vector<int>{Need(40), Need(100) + kArrowColumn, Need(60)}));
-    EXPECT_TRUE(layout.ownColumns);
+    MenuLayout own = Lay(look, items, true, 1024);
+    EXPECT_EQ(own.buttons.widths, (std::vector<int>{Need(40), Need(100) + kArrowColumn, Need(60)}));
+    EXPECT_TRUE(own.ownColumns);
     const MenuMetrics metrics = Options(look, true).metrics;
-    EXPECT_EQ(ColumnsFor(layout, items[0], metrics), (Columns{0, 0}));
-    EXPECT_EQ(ColumnsFor(layout, items[1], metrics), (Columns{0, kArrowColumn}));
-}
+    EXPECT_EQ(ColumnsFor(own, items[0], metrics), (Columns{0, 0}));
+    EXPECT_EQ(ColumnsFor(own, items[1], metrics), (Columns{0, kArrowColumn}));
 
-TEST(LayOutMenu, HorizontalRowThatMustScrollLocksItsWidths) {
-    MenuLook look = TestLook();
-    look.HorzLockWidth = false;
-    std::vector<ItemMeasure> items = Texts({40, 100, 60, 40, 100, 60, 40, 100, 60, 40});
+    // A row that has to scroll keeps one width for all, so its slots stay put.
     int room = 4 * Need(100) + 1;
-    MenuLayout layout = LayOutMenu(items, Options(look, true), room, 0);
-    EXPECT_EQ(layout.buttons.view.slots, 4);
-    EXPECT_EQ(layout.buttons.widths, std::vector<int>(4, Need(100)));
-    EXPECT_FALSE(layout.ownColumns);
-    std::vector<ScrollButton> scroll = ScrollButtons(layout.buttons);
+    MenuLayout scrolling = Lay(look, Texts({40, 100, 60, 40, 100, 60, 40, 100, 60, 40}), true, room);
+    EXPECT_EQ(scrolling.buttons.view.slots, 4);
+    EXPECT_EQ(scrolling.buttons.widths, std::vector<int>(4, Need(100)));
+    EXPECT_FALSE(scrolling.ownColumns);
+    std::vector<ScrollButton> scroll = ScrollButtons(scrolling.buttons);
     ASSERT_EQ(scroll.size(), 1u);
-    EXPECT_EQ(scroll[0].rect, ButtonRect(layout.buttons, 4));
-    EXPECT_TRUE(scroll[0].towardsEnd);
-    EXPECT_LE(layout.window.width, room);
+    EXPECT_EQ(scroll[0], (ScrollButton{ButtonRect(scrolling.buttons, 4), true}));
+    EXPECT_LE(scrolling.window.width, room);
 }
 
-TEST(LayOutMenu, HorizontalTitleBarChoices) {
+TEST(LayOutMenu, HorizontalTitleBarAndFrameChoices) {
     MenuLook look = TestLook();
     look.HorzNoTitlebar = false;
-    look.TitlePosition = 0;
-    MenuLayout top = LayOutMenu(Texts({100, 100}), Options(look, true), 1024, 0);
+    MenuLayout top = Lay(look, Texts({100, 100}), true, 1024);
     EXPECT_EQ(top.titlePlace, TitlePlace::Top);
     EXPECT_EQ(top.title, (Rect{0, 0, 2 * Need(100) + 1, 22}));
     EXPECT_EQ(top.window, (Size{2 * Need(100) + 1, 42}));
-
     look.MenuHorizontalStyle = 1;
-    MenuLayout left = LayOutMenu(Texts({100, 100}), Options(look, true), 1024, 0);
+    MenuLayout left = Lay(look, Texts({100, 100}), true, 1024);
     EXPECT_EQ(left.titlePlace, TitlePlace::Left);
     EXPECT_EQ(left.title, (Rect{0, 0, 22, 20}));
     EXPECT_EQ(left.window, (Size{22 + 2 * Need(100) + 1, 20}));
-}
 
-TEST(LayOutMenu, HorizontalButtonsOnlyDropsTitleAndFrame) {
-    MenuLook look = TestLook();
-    look.HorzNoTitlebar = false;
+    look.MenuHorizontalStyle = 0;
     look.MenuNoFrames = 0;
-    look.HorzButtonsOnly = true;
-    MenuLayout layout = LayOutMenu(Texts({100}), Options(look, true), 1024, 0);
-    EXPECT_EQ(layout.titlePlace, TitlePlace::None);
-    EXPECT_EQ(layout.surface, (Rect{0, 0, Need(100) + 1, 20}));
+    look.HorzButtonsOnly = true; // drops the title and the frame
+    MenuLayout bare = Lay(look, Texts({100}), true, 1024);
+    EXPECT_EQ(bare.titlePlace, TitlePlace::None);
+    EXPECT_EQ(bare.surface, (Rect{0, 0, Need(100) + 1, 20}));
     look.HorzButtonsOnly = false;
-    look.HorzNoTitlebar = true;
-    MenuLayout framed = LayOutMenu(Texts({100}), Options(look, true), 1024, 0);
+    look.HorzNoTitlebar = true; // drops the title only
+    MenuLayout framed = Lay(look, Texts({100}), true, 1024);
     EXPECT_EQ(framed.titlePlace, TitlePlace::None);
     EXPECT_EQ(framed.surface, (Rect{1, 1, Need(100) + 2, 21}));
-}
 
-TEST(MenuShape, HorizontalSwitchesDoNotTouchVerticalMenus) {
-    MenuLook look = TestLook();
+    // None of the horizontal switches touches a vertical menu.
     look.HorzButtonsOnly = true;
-    look.HorzNoTitlebar = true;
-    look.MenuNoFrames = 0;
     MenuShape shape = ShapeOf(look, false, false);
     EXPECT_EQ(shape.title, TitlePlace::Top);
     EXPECT_EQ(shape.frameLines, 1);

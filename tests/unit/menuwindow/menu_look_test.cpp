@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <string>
+#include <tuple>
 
 using namespace MenuWindow;
 
@@ -14,47 +14,6 @@ MenuLook DefaultLook() {
 }
 
 } // namespace
-
-TEST(LookFromSettings, TakesTheDefaultsOfTheSettings) {
-    MenuLook look = DefaultLook();
-    EXPECT_EQ(look.TitleVSize, 22);
-    EXPECT_EQ(look.ButtonVSize, 20);
-    EXPECT_EQ(look.ButtonColor, 0xDFDFDF);
-    EXPECT_EQ(look.Title3DColor1, 0x909790);
-    EXPECT_EQ(look.MenuMaxNoItems, 9999);
-    EXPECT_EQ(look.TitleFont, "Arial");
-}
-
-TEST(PartLook, DefaultTitleIsSolidBlackWithWhiteTextAndARaisedEdge) {
-    PartLook title = LookOf(DefaultLook(), Part::Title, false);
-    EXPECT_EQ(title.background, Background::Solid);
-    EXPECT_EQ(title.colour, 0x000000);
-    EXPECT_EQ(title.textColour, 0xFFFFFF);
-    EXPECT_FALSE(title.flat);
-    EXPECT_EQ(title.edgeStyle, EdgeStyle::Raised);
-    EXPECT_EQ(title.edgeLight, 0x909790);
-    EXPECT_EQ(title.edgeDark, 0x000000);
-    EXPECT_EQ(title.bitmapStem, "TitleA");
-    EXPECT_EQ(title.textEffect, TextEffect::Plain);
-}
-
-TEST(PartLook, DefaultButtonsAreAFlatGradientOverTheWholeMenu) {
-    PartLook button = LookOf(DefaultLook(), Part::Button, false);
-    EXPECT_EQ(button.background, Background::Gradient);
-    EXPECT_EQ(button.gradient, (GradientSpec{0xDFDFDF, 0x919191, 0, false}));
-    EXPECT_TRUE(button.overMenu);
-    EXPECT_TRUE(button.flat);
-    EXPECT_EQ(button.textColour, 0x000000);
-    EXPECT_EQ(button.bitmapStem, "ButtonA");
-}
-
-TEST(PartLook, DefaultSelectionBarIsSolidWhiteWithBlackText) {
-    PartLook bar = LookOf(DefaultLook(), Part::SelectionBar, false);
-    EXPECT_EQ(bar.background, Background::Solid);
-    EXPECT_EQ(bar.colour, 0xFFFFFF);
-    EXPECT_EQ(bar.textColour, 0x000000);
-    EXPECT_FALSE(bar.overMenu);
-}
 
 TEST(PartLook, GradientTakesBothColoursTypeAndWrap) {
     MenuLook look = DefaultLook();
@@ -83,6 +42,7 @@ TEST(PartLook, BitmapWinsOverGradient) {
 
 TEST(PartLook, GradientSpansTheMenuOnlyWhenTheMenuIsItsTarget) {
     MenuLook look = DefaultLook();
+    EXPECT_TRUE(LookOf(look, Part::Button, false).overMenu) << "the default gradient spans the body";
     look.MenuIsGradientTarget = false;
     EXPECT_FALSE(LookOf(look, Part::Button, false).overMenu);
     look.ButtonGradient = false;
@@ -191,19 +151,16 @@ TEST(PartLook, SelectionBarKindIsANumber) {
 
 TEST(PartLook, ButtonFlatStyleTwoLeavesTheEdgeToTheSelectionBar) {
     MenuLook look = DefaultLook();
-    look.ButtonFlat = 0;
-    EXPECT_FALSE(LookOf(look, Part::Button, false).flat);
-    EXPECT_FALSE(LookOf(look, Part::SelectionBar, false).flat);
-    look.ButtonFlat = 1;
-    EXPECT_TRUE(LookOf(look, Part::Button, false).flat);
-    EXPECT_TRUE(LookOf(look, Part::SelectionBar, false).flat);
-    look.ButtonFlat = 2;
-    EXPECT_TRUE(LookOf(look, Part::Button, false).flat);
-    EXPECT_FALSE(LookOf(look, Part::SelectionBar, false).flat);
+    for (auto [style, button, bar] : {std::tuple{0, false, false}, {1, true, true}, {2, true, false}}) {
+        look.ButtonFlat = static_cast<std::int16_t>(style);
+        EXPECT_EQ(LookOf(look, Part::Button, false).flat, button) << style;
+        EXPECT_EQ(LookOf(look, Part::SelectionBar, false).flat, bar) << style;
+    }
 }
 
 TEST(PartLook, TextTypeAndEdgeStyleNumbers) {
     MenuLook look = DefaultLook();
+    EXPECT_EQ(LookOf(look, Part::Title, false).textEffect, TextEffect::Plain) << "2, the default";
     look.TitleTextType = 0;
     look.ButtonTextType = 1;
     EXPECT_EQ(LookOf(look, Part::Title, false).textEffect, TextEffect::Sunken);

@@ -7,27 +7,14 @@
 
 using namespace MenuWindow;
 
-TEST(BuildScene, MeasuresTheItemsAndLaysOutTheMenu) {
-    MenuScene scene = Scene(PlainLook(), Items({"Editor", "Calculator"}), "T");
-    ASSERT_EQ(scene.measures.size(), 2u);
-    EXPECT_EQ(scene.measures[1].textWidth, 10 * kButtonCharWidth);
-    EXPECT_EQ(scene.layout.window, (Size{8 + 60 + kTextRightMargin, 24 + 40}));
-    EXPECT_EQ(scene.view().count, 2);
-}
-
-TEST(BuildScene, AMenuIsWideEnoughForItsTitleWithinTheMaximum) {
+TEST(BuildScene, AMenuIsWideEnoughForItsTitleWithinTheMaximumUnlessTheTitleIsAtTheLeft) {
     MenuScene scene = Scene(PlainLook(), Items({"A"}), "Programs");
     EXPECT_EQ(scene.layout.window.width, 8 * kTitleCharWidth + 2 * kTitleTextPadding);
     MenuLook look = PlainLook();
     look.ButtonMaxWidth = 50;
     EXPECT_EQ(Scene(look, Items({"A"}), "Programs").layout.window.width, 50);
-}
-
-TEST(BuildScene, ATitleAtTheLeftDoesNotWidenTheMenu) {
-    MenuLook look = PlainLook();
     look.TitlePosition = 2;
-    MenuScene scene = Scene(look, Items({"A"}), "Programs");
-    EXPECT_EQ(scene.layout.window.width, 24 + kSmallestMenuWidth);
+    EXPECT_EQ(Scene(look, Items({"A"}), "Programs").layout.window.width, 24 + kSmallestMenuWidth);
 }
 
 TEST(BuildScene, TheRoomAlongTheButtonsIsTheWorkAreasHeightOrWidth) {

@@ -20,31 +20,28 @@ MenuLayout LayoutWithTitle(TitlePlace place, bool framed) {
 
 } // namespace
 
-TEST(WindowOutline, NormalStateHasNoRegion) {
+TEST(WindowOutline, RolledUpOnlyTheTitleBarShowsNormallyTheWholeWindow) {
     EXPECT_FALSE(WindowOutline(LayoutWithTitle(TitlePlace::Top, false), false).has_value());
     EXPECT_FALSE(WindowOutline(LayoutWithTitle(TitlePlace::Left, true), false).has_value());
-}
-
-TEST(WindowOutline, RolledUpShowsTheTitleBarAcrossTheWidth) {
-    MenuLayout top = LayoutWithTitle(TitlePlace::Top, false);
-    EXPECT_EQ(WindowOutline(top, true), (Rect{0, 0, top.window.width, 22}));
-    MenuLayout framed = LayoutWithTitle(TitlePlace::Top, true);
-    EXPECT_EQ(WindowOutline(framed, true), (Rect{0, 0, framed.window.width, 23}));
-    MenuLayout bottom = LayoutWithTitle(TitlePlace::Bottom, false);
-    EXPECT_EQ(WindowOutline(bottom, true), (Rect{0, 60, bottom.window.width, 82}));
-}
-
-TEST(WindowOutline, RolledUpVerticalTitleShowsTheBarDownTheWholeHeight) {
-    MenuLayout left = LayoutWithTitle(TitlePlace::Left, false);
-    EXPECT_EQ(WindowOutline(left, true), (Rect{0, 0, 22, 60}));
-    MenuLayout framed = LayoutWithTitle(TitlePlace::Left, true);
-    EXPECT_EQ(WindowOutline(framed, true), (Rect{0, 0, 23, 62}));
-}
-
-TEST(WindowOutline, MenuWithoutTitleBarKeepsItsWholeRectangle) {
-    MenuLayout layout = LayoutWithTitle(TitlePlace::Top, false);
-    layout.titlePlace = TitlePlace::None;
-    EXPECT_FALSE(WindowOutline(layout, true).has_value());
+    const struct {
+        TitlePlace place;
+        bool framed;
+        Rect shown; // right -1: the window's width
+    } cases[] = {
+        {TitlePlace::Top, false, {0, 0, -1, 22}},     {TitlePlace::Top, true, {0, 0, -1, 23}},
+        {TitlePlace::Bottom, false, {0, 60, -1, 82}}, {TitlePlace::Left, false, {0, 0, 22, 60}},
+        {TitlePlace::Left, true, {0, 0, 23, 62}},
+    };
+    for (const auto& c : cases) {
+        MenuLayout layout = LayoutWithTitle(c.place, c.framed);
+        Rect shown = c.shown;
+        if (shown.right < 0)
+            shown.right = layout.window.width;
+        EXPECT_EQ(WindowOutline(layout, true), shown) << static_cast<int>(c.place) << (c.framed ? " framed" : "");
+    }
+    MenuLayout none = LayoutWithTitle(TitlePlace::Top, false);
+    none.titlePlace = TitlePlace::None;
+    EXPECT_FALSE(WindowOutline(none, true).has_value()) << "without a title bar the whole rectangle stays";
 }
 
 TEST(ButtonState, FollowsSelectionPressAndTheSelectionBar) {

@@ -44,13 +44,6 @@ TEST(ButtonOps, ANormalButtonInTheButtonColourWithItsLabel) {
     EXPECT_TRUE(OpsOf<IconOp>(ops).empty()) << "icons are off";
 }
 
-TEST(ButtonOps, ASelectedButtonIsTheSelectionBarWithItsTextColour) {
-    MenuScene scene = Scene(PlainLook(), Items({"Editor", "Calculator"}));
-    DrawList ops = Button(scene, 1, ButtonState::Selected);
-    EXPECT_EQ(FilledAt(ops, RightEnd(scene, 1)), kBar);
-    EXPECT_EQ(OpsOf<TextOp>(ops)[0].colour, kBarText);
-}
-
 TEST(ButtonOps, APressedButtonIsSunkenWithItsContentsMovedByOnePixel) {
     MenuLook look = PlainLook();
     look.Button3DColor1 = 0xEEEEEE;
@@ -60,9 +53,8 @@ TEST(ButtonOps, APressedButtonIsSunkenWithItsContentsMovedByOnePixel) {
     DrawList ops = Button(scene, 1, ButtonState::Pressed);
     EXPECT_EQ(FilledAt(ops, {button.left + 5, button.top}), 0x111111) << "dark above even though buttons are flat";
     EXPECT_EQ(FilledAt(ops, {button.left + 5, button.bottom - 1}), 0xEEEEEE);
-    EXPECT_EQ(
-        OpsOf<TextOp>(Button(scene, 1, ButtonState::Pressed))[0].origin,
-        (Point{OpsOf<TextOp>(Button(scene, 1))[0].origin.x + 1, OpsOf<TextOp>(Button(scene, 1))[0].origin.y + 1}));
+    Point normal = OpsOf<TextOp>(Button(scene, 1))[0].origin;
+    EXPECT_EQ(OpsOf<TextOp>(ops)[0].origin, (Point{normal.x + 1, normal.y + 1}));
 }
 
 TEST(ButtonOps, AnEdgedButtonHasItsStylesEdge) {

@@ -185,7 +185,6 @@ TEST(TitleButtonPainting, RoundButtonsAreCirclesInTheirOwnColours) {
         EXPECT_EQ(circles[0].rect.Width(), circles[0].rect.Height());
     }
     EXPECT_NE(RoundButtonColour(TitleButton::Close), RoundButtonColour(TitleButton::OnTop));
-    EXPECT_EQ(RoundButtonRim(TitleButton::Close), 0x00323295u);
 }
 
 TEST(TitleButtonPainting, PictureButtonsUseTheFoundFileOrNothing) {

@@ -54,19 +54,6 @@ TEST(TitleOps, ANameLongerThanTheWidestBarEndsInDots) {
     EXPECT_EQ(texts[0].text, "A rather...") << "88 pixels of room: 11 characters";
 }
 
-TEST(TitleOps, AGradientBarHasTheGradientsBandsAcrossIt) {
-    MenuLook look = PlainLook();
-    look.TitleGradient = true;
-    look.TitleColor2 = 0x0000FF;
-    look.TitleGradientType = kGradientLeftToRight;
-    MenuScene scene = Scene(look, Items({"Editor"}), "Tools");
-    DrawList ops = TitleOps(scene, FakeMeasure{});
-    Rect bar = scene.layout.title;
-    std::vector<ColourBand> bands = GradientBands({bar.Width(), bar.Height()}, {kTitle, 0x0000FF, 0, false});
-    EXPECT_EQ(FilledAt(ops, {0, 0}), bands.front().colour);
-    EXPECT_EQ(FilledAt(ops, {bar.right - 1, 0}), bands.back().colour);
-}
-
 TEST(TitleOps, ARaisedEdgeUnlessFlat) {
     MenuLook look = PlainLook();
     look.TitleFlat = false;
@@ -95,27 +82,6 @@ TEST(TitleOps, AtTheLeftTheNameIsTurnedAndReadsUpwardsFromTheBottom) {
     look.TitleAlignment = 2;
     MenuScene right = Scene(look, Items({"A", "B", "C", "D", "E"}), "Tools");
     EXPECT_EQ(TitleTexts(right)[0].origin.y, 6 + 5 * kTitleCharWidth) << "right-aligned ends at the top";
-}
-
-TEST(TitleOps, TheInactiveLookOnlyWithItsSwitch) {
-    MenuLook look = PlainLook();
-    look.TitleInactiveColor = 0x406080;
-    look.TitleInactiveFontColor = 0x00FF00;
-    look.TitleInactiveFlat = true;
-    SceneRequest request;
-    request.look = look;
-    request.list = Items({"Editor"});
-    request.title = "Tools";
-    request.workArea = {0, 0, 1024, 768};
-    request.inactive = true;
-    MenuScene inactiveOff = BuildScene(request, FakeMeasure{});
-    EXPECT_EQ(FilledAt(TitleOps(inactiveOff, FakeMeasure{}), {1, 1}), kTitle);
-
-    request.look.TitleShowInactive = true;
-    MenuScene inactiveOn = BuildScene(request, FakeMeasure{});
-    DrawList ops = TitleOps(inactiveOn, FakeMeasure{});
-    EXPECT_EQ(FilledAt(ops, {1, 1}), 0x406080);
-    EXPECT_EQ(OpsOf<TextOp>(ops)[0].colour, 0x00FF00);
 }
 
 TEST(TitleOps, NothingWithoutATitleBar) {

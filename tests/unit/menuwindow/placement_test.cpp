@@ -9,149 +9,88 @@ using namespace MenuWindow;
 namespace {
 
 constexpr Rect kWorkArea{0, 0, 1024, 738};
+constexpr Size kWindow{150, 200};
 
 // A sub-menu 150 wide and 120 high whose title bar starts at its top and whose first
 // button starts 22 pixels down.
 constexpr SubMenuFrame kSubMenu{{150, 120}, 0, 22};
 
-SubMenuAnchor VerticalParent(Rect parent, int buttonTop, bool towardsStart = false) {
-    return {parent, false, buttonTop, towardsStart};
-}
-
 } // namespace
 
-TEST(KeepOnScreen, LeavesAWindowThatFitsAlone) {
-    EXPECT_EQ(KeepOnScreen({100, 200}, {150, 200}, kWorkArea), (Point{100, 200}));
-    EXPECT_EQ(KeepOnScreen({874, 538}, {150, 200}, kWorkArea), (Point{874, 538}));
-}
-
-TEST(KeepOnScreen, MovesBackFromEveryEdge) {
-    EXPECT_EQ(KeepOnScreen({875, 539}, {150, 200}, kWorkArea), (Point{874, 538}));
-    EXPECT_EQ(KeepOnScreen({-10, -1}, {150, 200}, kWorkArea), (Point{0, 0}));
-    EXPECT_EQ(KeepOnScreen({5, 5}, {150, 200}, {20, 30, 1024, 738}), (Point{20, 30}));
-}
-
-TEST(KeepOnScreen, WindowLargerThanTheWorkAreaShowsItsTopLeft) {
+TEST(KeepOnScreen, MovesBackFromEveryEdgeAndShowsTheTopLeftOfATooLargeWindow) {
+    EXPECT_EQ(KeepOnScreen({100, 200}, kWindow, kWorkArea), (Point{100, 200}));
+    EXPECT_EQ(KeepOnScreen({874, 538}, kWindow, kWorkArea), (Point{874, 538}));
+    EXPECT_EQ(KeepOnScreen({875, 539}, kWindow, kWorkArea), (Point{874, 538}));
+    EXPECT_EQ(KeepOnScreen({-10, -1}, kWindow, kWorkArea), (Point{0, 0}));
+    EXPECT_EQ(KeepOnScreen({5, 5}, kWindow, {20, 30, 1024, 738}), (Point{20, 30}));
     EXPECT_EQ(KeepOnScreen({300, 300}, {2000, 1000}, kWorkArea), (Point{0, 0}));
 }
 
-TEST(PlaceHotspotMenu, StandsAtItsPositionFromTheOrigin) {
-    EXPECT_EQ(PlaceHotspotMenu({100, 50}, {0, 0}, false, {500, 500}, {150, 200}, kWorkArea), (Point{100, 50}));
-    EXPECT_EQ(PlaceHotspotMenu({100, 50}, {200, 100}, false, {500, 500}, {150, 200}, kWorkArea), (Point{300, 150}));
-}
-
-TEST(PlaceHotspotMenu, IsKeptOnTheScreen) {
-    EXPECT_EQ(PlaceHotspotMenu({950, 600}, {0, 0}, false, {0, 0}, {150, 200}, kWorkArea), (Point{874, 538}));
-}
-
-TEST(PlaceHotspotMenu, OnMouseOpensAtTheCursor) {
-    EXPECT_EQ(PlaceHotspotMenu({100, 50}, {200, 100}, true, {10, 20}, {150, 200}, kWorkArea), (Point{10, 20}));
-}
-
-TEST(PlaceHotspotMenu, OnMouseOpensLeftOfAndAboveTheCursorWhenThereIsNoRoom) {
-    EXPECT_EQ(PlaceHotspotMenu({}, {}, true, {1000, 20}, {150, 200}, kWorkArea), (Point{850, 20}));
-    EXPECT_EQ(PlaceHotspotMenu({}, {}, true, {10, 700}, {150, 200}, kWorkArea), (Point{10, 500}));
-    EXPECT_EQ(PlaceHotspotMenu({}, {}, true, {874, 538}, {150, 200}, kWorkArea), (Point{874, 538}));
-    EXPECT_EQ(PlaceHotspotMenu({}, {}, true, {875, 539}, {150, 200}, kWorkArea), (Point{725, 339}));
+TEST(PlaceHotspotMenu, AtItsPositionFromTheOriginOrOnMouseAtTheCursorKeptOnTheScreen) {
+    EXPECT_EQ(PlaceHotspotMenu({100, 50}, {0, 0}, false, {500, 500}, kWindow, kWorkArea), (Point{100, 50}));
+    EXPECT_EQ(PlaceHotspotMenu({100, 50}, {200, 100}, false, {500, 500}, kWindow, kWorkArea), (Point{300, 150}));
+    EXPECT_EQ(PlaceHotspotMenu({950, 600}, {0, 0}, false, {0, 0}, kWindow, kWorkArea), (Point{874, 538}));
+    EXPECT_EQ(PlaceHotspotMenu({100, 50}, {200, 100}, true, {10, 20}, kWindow, kWorkArea), (Point{10, 20}));
+    // Without room on the right or below, left of and above the cursor, as popup menus open.
+    EXPECT_EQ(PlaceHotspotMenu({}, {}, true, {1000, 20}, kWindow, kWorkArea), (Point{850, 20}));
+    EXPECT_EQ(PlaceHotspotMenu({}, {}, true, {10, 700}, kWindow, kWorkArea), (Point{10, 500}));
+    EXPECT_EQ(PlaceHotspotMenu({}, {}, true, {874, 538}, kWindow, kWorkArea), (Point{874, 538}));
+    EXPECT_EQ(PlaceHotspotMenu({}, {}, true, {875, 539}, kWindow, kWorkArea), (Point{725, 339}));
     // Too tall to open above the cursor either: kept on the screen.
     EXPECT_EQ(PlaceHotspotMenu({}, {}, true, {10, 100}, {150, 700}, kWorkArea), (Point{10, 0}));
 }
 
-TEST(PlaceSubMenu, TitleBarLevelWithTheButton) {
-    Placement placement =
-        PlaceSubMenu(VerticalParent({100, 100, 250, 400}, 160), kSubMenu, kAlignTitleWithButton, 0, kWorkArea);
-    EXPECT_EQ(placement.topLeft, (Point{250, 160}));
-    EXPECT_FALSE(placement.towardsStart);
-}
-
-TEST(PlaceSubMenu, FirstButtonLevelWithTheButton) {
-    Placement placement =
-        PlaceSubMenu(VerticalParent({100, 100, 250, 400}, 160), kSubMenu, kAlignFirstButtonWithButton, 0, kWorkArea);
-    EXPECT_EQ(placement.topLeft, (Point{250, 138}));
-}
-
-TEST(PlaceSubMenu, MenusAlignedByTheirTitleBars) {
-    Placement placement =
-        PlaceSubMenu(VerticalParent({100, 100, 250, 400}, 160), kSubMenu, kAlignByTitlebar, 0, kWorkArea);
-    EXPECT_EQ(placement.topLeft, (Point{250, 100}));
-}
-
-TEST(PlaceSubMenu, OtherAlignValuesAlignTheTitleBar) {
-    Placement placement = PlaceSubMenu(VerticalParent({100, 100, 250, 400}, 160), kSubMenu, 7, 0, kWorkArea);
-    EXPECT_EQ(placement.topLeft, (Point{250, 160}));
-}
-
-TEST(PlaceSubMenu, OverlapCoversTheParent) {
-    Placement placement =
-        PlaceSubMenu(VerticalParent({100, 100, 250, 400}, 160), kSubMenu, kAlignTitleWithButton, 10, kWorkArea);
-    EXPECT_EQ(placement.topLeft, (Point{240, 160}));
-}
-
-TEST(PlaceSubMenu, FlipsToTheLeftAtTheScreensRightEdge) {
-    // 874 + 150 = 1024 still fits on the right.
-    EXPECT_EQ(PlaceSubMenu(VerticalParent({774, 100, 874, 400}, 160), kSubMenu, 0, 0, kWorkArea).topLeft,
-              (Point{874, 160}));
-    Placement flipped = PlaceSubMenu(VerticalParent({775, 100, 875, 400}, 160), kSubMenu, 0, 0, kWorkArea);
-    EXPECT_EQ(flipped.topLeft, (Point{625, 160}));
-    EXPECT_TRUE(flipped.towardsStart);
-    // Overlapping, the sub-menu needs 10 pixels less room on the right, and flips further in.
-    EXPECT_EQ(PlaceSubMenu(VerticalParent({775, 100, 875, 400}, 160), kSubMenu, 0, 10, kWorkArea).topLeft,
-              (Point{865, 160}));
-    EXPECT_EQ(PlaceSubMenu(VerticalParent({785, 100, 885, 400}, 160), kSubMenu, 0, 10, kWorkArea).topLeft,
-              (Point{645, 160}));
-}
-
-TEST(PlaceSubMenu, CascadeThatTurnedLeftKeepsGoingLeft) {
-    Placement placement = PlaceSubMenu(VerticalParent({400, 100, 550, 400}, 160, true), kSubMenu, 0, 0, kWorkArea);
-    EXPECT_EQ(placement.topLeft, (Point{250, 160}));
-    EXPECT_TRUE(placement.towardsStart);
-    // Until the left edge: then it turns right again.
-    Placement back = PlaceSubMenu(VerticalParent({149, 100, 299, 400}, 160, true), kSubMenu, 0, 0, kWorkArea);
-    EXPECT_EQ(back.topLeft, (Point{299, 160}));
-    EXPECT_FALSE(back.towardsStart);
-    EXPECT_EQ(PlaceSubMenu(VerticalParent({150, 100, 299, 400}, 160, true), kSubMenu, 0, 0, kWorkArea).topLeft,
-              (Point{0, 160}));
-}
-
-TEST(PlaceSubMenu, NoRoomOnEitherSideTakesTheRoomierOneAndStaysOnTheScreen) {
+// A sub-menu of a vertical parent, in a work area 1024 wide and 738 high unless said.
+TEST(PlaceSubMenu, BesideAVerticalParent) {
+    const struct {
+        Rect parent;
+        int buttonTop;
+        bool parentTowardsStart;
+        int align;
+        int overlap;
+        Placement expected;
+        const char* why;
+    } cases[] = {
+        {{100, 100, 250, 400}, 160, false, kAlignTitleWithButton, 0, {{250, 160}, false}, "title with the button"},
+        {{100, 100, 250, 400}, 160, false, kAlignFirstButtonWithButton, 0, {{250, 138}, false}, "first button"},
+        {{100, 100, 250, 400}, 160, false, kAlignByTitlebar, 0, {{250, 100}, false}, "title bars in line"},
+        {{100, 100, 250, 400}, 160, false, 7, 0, {{250, 160}, false}, "other values: title with the button"},
+        {{100, 100, 250, 400}, 160, false, 0, 10, {{240, 160}, false}, "overlapping the parent"},
+        {{774, 100, 874, 400}, 160, false, 0, 0, {{874, 160}, false}, "874 + 150 still fits"},
+        {{775, 100, 875, 400}, 160, false, 0, 0, {{625, 160}, true}, "flipped at the right edge"},
+        {{775, 100, 875, 400}, 160, false, 0, 10, {{865, 160}, false}, "overlapping needs 10 less room"},
+        {{785, 100, 885, 400}, 160, false, 0, 10, {{645, 160}, true}, "and flips further in"},
+        {{400, 100, 550, 400}, 160, true, 0, 0, {{250, 160}, true}, "a cascade turned left keeps going"},
+        {{149, 100, 299, 400}, 160, true, 0, 0, {{299, 160}, false}, "until the left edge"},
+        {{150, 100, 299, 400}, 160, true, 0, 0, {{0, 160}, true}, "exactly room on the left"},
+        {{100, 300, 250, 738}, 618, false, 0, 0, {{250, 618}, false}, "fits above the bottom"},
+        {{100, 300, 250, 738}, 700, false, 0, 0, {{250, 618}, false}, "moved up from the bottom"},
+        {{100, 0, 250, 738}, 10, false, kAlignFirstButtonWithButton, 0, {{250, 0}, false}, "not above the top"},
+    };
+    for (const auto& c : cases) {
+        SubMenuAnchor anchor{c.parent, false, c.buttonTop, c.parentTowardsStart};
+        EXPECT_EQ(PlaceSubMenu(anchor, kSubMenu, c.align, c.overlap, kWorkArea), c.expected) << c.why;
+    }
+    // No room on either side: the roomier one, kept on the screen; a tie goes right.
     Rect narrow{0, 0, 300, 738};
-    Placement left = PlaceSubMenu(VerticalParent({120, 100, 220, 400}, 160), kSubMenu, 0, 0, narrow);
-    EXPECT_EQ(left.topLeft, (Point{0, 160}));
-    EXPECT_TRUE(left.towardsStart);
-    Placement right = PlaceSubMenu(VerticalParent({80, 100, 180, 400}, 160), kSubMenu, 0, 0, narrow);
-    EXPECT_EQ(right.topLeft, (Point{150, 160}));
-    EXPECT_FALSE(right.towardsStart);
-    Placement tie = PlaceSubMenu(VerticalParent({100, 100, 200, 400}, 160), kSubMenu, 0, 0, narrow);
-    EXPECT_EQ(tie.topLeft, (Point{150, 160}));
-    EXPECT_FALSE(tie.towardsStart);
+    EXPECT_EQ(PlaceSubMenu({{120, 100, 220, 400}, false, 160, false}, kSubMenu, 0, 0, narrow),
+              (Placement{{0, 160}, true}));
+    EXPECT_EQ(PlaceSubMenu({{80, 100, 180, 400}, false, 160, false}, kSubMenu, 0, 0, narrow),
+              (Placement{{150, 160}, false}));
+    EXPECT_EQ(PlaceSubMenu({{100, 100, 200, 400}, false, 160, false}, kSubMenu, 0, 0, narrow),
+              (Placement{{150, 160}, false}));
 }
 
-TEST(PlaceSubMenu, IsMovedUpFromTheBottomOfTheScreen) {
-    EXPECT_EQ(PlaceSubMenu(VerticalParent({100, 300, 250, 738}, 618), kSubMenu, 0, 0, kWorkArea).topLeft,
-              (Point{250, 618}));
-    EXPECT_EQ(PlaceSubMenu(VerticalParent({100, 300, 250, 738}, 700), kSubMenu, 0, 0, kWorkArea).topLeft,
-              (Point{250, 618}));
-    EXPECT_EQ(PlaceSubMenu(VerticalParent({100, 0, 250, 738}, 10), kSubMenu, kAlignFirstButtonWithButton, 0, kWorkArea)
-                  .topLeft,
-              (Point{250, 0}));
-}
-
-TEST(PlaceSubMenu, HorizontalParentDropsItsSubMenusBelow) {
+TEST(PlaceSubMenu, BelowAHorizontalParentOrAboveItAtTheBottom) {
     SubMenuAnchor bar{{100, 0, 600, 22}, true, 250, false};
     SubMenuFrame menu{{150, 200}, 0, 0};
-    Placement placement = PlaceSubMenu(bar, menu, kAlignTitleWithButton, 0, kWorkArea);
-    EXPECT_EQ(placement.topLeft, (Point{250, 22}));
+    EXPECT_EQ(PlaceSubMenu(bar, menu, kAlignTitleWithButton, 0, kWorkArea), (Placement{{250, 22}, false}));
     EXPECT_EQ(PlaceSubMenu(bar, menu, kAlignByTitlebar, 0, kWorkArea).topLeft, (Point{100, 22}));
     EXPECT_EQ(PlaceSubMenu(bar, menu, kAlignTitleWithButton, 10, kWorkArea).topLeft, (Point{250, 12}));
     bar.buttonStart = 950;
     EXPECT_EQ(PlaceSubMenu(bar, menu, kAlignTitleWithButton, 0, kWorkArea).topLeft, (Point{874, 22}));
-}
-
-TEST(PlaceSubMenu, HorizontalParentAtTheBottomOpensUpwards) {
-    SubMenuAnchor bar{{100, 716, 600, 738}, true, 250, false};
-    Placement placement = PlaceSubMenu(bar, {{150, 200}, 0, 0}, 0, 0, kWorkArea);
-    EXPECT_EQ(placement.topLeft, (Point{250, 516}));
-    EXPECT_TRUE(placement.towardsStart);
+    SubMenuAnchor bottom{{100, 716, 600, 738}, true, 250, false};
+    EXPECT_EQ(PlaceSubMenu(bottom, menu, 0, 0, kWorkArea), (Placement{{250, 516}, true}));
 }
 
 TEST(SubMenuFrameOf, MeasuresTitleAndFirstButtonInTheWindow) {
@@ -167,15 +106,13 @@ TEST(SubMenuFrameOf, MeasuresTitleAndFirstButtonInTheWindow) {
     EXPECT_EQ(SubMenuFrameOf(layout, true), (SubMenuFrame{{152, 100}, 1, 1}));
     layout.titlePlace = TitlePlace::None;
     EXPECT_EQ(SubMenuFrameOf(layout, false).titleStart, 0);
-}
-
-TEST(SubMenuFrameOf, HorizontalSubMenuStartsItsFirstButtonOneColumnIn) {
-    MenuLayout layout;
-    layout.titlePlace = TitlePlace::None;
-    layout.surface = {0, 0, 101, 20};
-    layout.buttons.horizontal = true;
-    layout.buttons.buttonHeight = 20;
-    layout.buttons.widths = {100};
-    layout.buttons.view = PlanScroll(1, 1, 9999, false, 0);
-    EXPECT_EQ(SubMenuFrameOf(layout, true).firstButtonStart, 1);
+    // A horizontal sub-menu starts its first button one column in.
+    MenuLayout row;
+    row.titlePlace = TitlePlace::None;
+    row.surface = {0, 0, 101, 20};
+    row.buttons.horizontal = true;
+    row.buttons.buttonHeight = 20;
+    row.buttons.widths = {100};
+    row.buttons.view = PlanScroll(1, 1, 9999, false, 0);
+    EXPECT_EQ(SubMenuFrameOf(row, true).firstButtonStart, 1);
 }

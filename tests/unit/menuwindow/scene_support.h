@@ -1,7 +1,8 @@
-// Scenes of menus for the painting tests: a plain look with round numbers and a menu of
-// labelled items, measured with the fake measure.
+// Scenes of menus for the painting tests: the plain menu of the shared settings and a menu
+// of labelled items, measured with the fake measure.
 #pragma once
 
+#include "support/plain_menu_settings.h"
 #include "fake_measure.h"
 #include "menuwindow/menu_scene.h"
 
@@ -10,43 +11,16 @@
 
 namespace MenuWindow {
 
-inline constexpr Colour kTitle = 0x804020;
-inline constexpr Colour kTitleText = 0x00FFFF;
-inline constexpr Colour kButton = 0xC0E0D0;
-inline constexpr Colour kButtonText = 0x201010;
-inline constexpr Colour kBar = 0x3060F0;
-inline constexpr Colour kBarText = 0xFFFFFE;
+inline constexpr Colour kTitle = TestSupport::kPlainTitle;
+inline constexpr Colour kTitleText = TestSupport::kPlainTitleText;
+inline constexpr Colour kButton = TestSupport::kPlainButton;
+inline constexpr Colour kButtonText = TestSupport::kPlainButtonText;
+inline constexpr Colour kBar = TestSupport::kPlainBar;
+inline constexpr Colour kBarText = TestSupport::kPlainBarText;
 
-// Title 24 high, buttons 20 high, text offset 8, solid colours, flat parts, no frame,
-// no icons, no title-bar buttons, widths 0 to 300.
+// Title 24 high, buttons 20 high, text offset 8, widths 0 to 300 (the defaults).
 inline MenuLook PlainLook() {
-    SettingsRec s;
-    s.TitleColor = kTitle;
-    s.TitleFontColor = kTitleText;
-    s.TitleGradient = false;
-    s.TitleFlat = true;
-    s.TitleOverlap = false;
-    s.TitleVSize = 24;
-    s.TitleAlignment = 0;
-    s.ButtonColor = kButton;
-    s.ButtonFontColor = kButtonText;
-    s.ButtonGradient = false;
-    s.ButtonFlat = 1;
-    s.ButtonVSize = 20;
-    s.ButtonTextOfset = 8;
-    s.ButtonMinWidth = 0;
-    s.ButtonMaxWidth = 300;
-    s.SelBar = true;
-    s.SelBarGradient = 0;
-    s.SelBarColor = kBar;
-    s.SelBarTextColor = kBarText;
-    s.MenuNoFrames = 1;
-    s.TwinScrollButtons = false;
-    s.CloseStatus = 0;
-    s.RollUpStatus = 0;
-    s.RotateStatus = 0;
-    s.AlwaysOnTopStatus = 0;
-    return LookFromSettings(s);
+    return LookFromSettings(TestSupport::PlainMenuSettings());
 }
 
 inline DisplayList Items(const std::vector<std::string>& labels) {

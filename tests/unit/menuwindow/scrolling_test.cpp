@@ -25,50 +25,35 @@ std::vector<int> Range(int from, int to) {
 
 } // namespace
 
-TEST(PlanScroll, MenuThatFitsShowsEveryItemWithoutScrollButtons) {
-    ScrollView view = PlanScroll(5, 10, 9999, false, 3);
-    EXPECT_EQ(view.slots, 5);
-    EXPECT_EQ(view.first, 0);
-    EXPECT_FALSE(IsCut(view));
-    EXPECT_EQ(VisibleCount(view), 5);
-    EXPECT_EQ(DrawnItems(view), Range(1, 5));
-    for (int position = 1; position <= 5; ++position)
-        EXPECT_EQ(ScrollSlotAt(view, position), ScrollSlot::None);
-}
-
-TEST(PlanScroll, ExactFitIsNotCut) {
-    ScrollView view = PlanScroll(8, 8, 9999, false, 0);
-    EXPECT_FALSE(IsCut(view));
-    EXPECT_EQ(DrawnItems(view), Range(1, 8));
-}
-
-TEST(PlanScroll, CutMenuShowsAScrollButtonAtTheBottomWithNoButtonBehindIt) {
-    ScrollView view = PlanScroll(20, 8, 9999, false, 0);
-    EXPECT_EQ(view.slots, 8);
-    EXPECT_TRUE(IsCut(view));
-    EXPECT_EQ(ScrollSlotAt(view, 1), ScrollSlot::None);
-    EXPECT_EQ(ScrollSlotAt(view, 8), ScrollSlot::TowardsEnd);
-    EXPECT_FALSE(IsDrawn(view, 8));
-    EXPECT_EQ(DrawnItems(view), Range(1, 7));
-}
-
-TEST(PlanScroll, ScrolledIntoTheMiddleShowsBothScrollButtons) {
-    ScrollView view = PlanScroll(20, 8, 9999, false, 5);
-    EXPECT_EQ(ScrollSlotAt(view, 1), ScrollSlot::TowardsStart);
-    EXPECT_EQ(ScrollSlotAt(view, 8), ScrollSlot::TowardsEnd);
-    EXPECT_EQ(DrawnItems(view), Range(7, 12));
-}
-
-TEST(PlanScroll, ScrolledToTheEndShowsTheLastItemAndOnlyTheTopScrollButton) {
-    ScrollView view = PlanScroll(20, 8, 9999, false, 12);
-    EXPECT_EQ(LargestFirst(view), 12);
-    EXPECT_TRUE(HiddenBefore(view));
-    EXPECT_FALSE(HiddenAfter(view));
-    EXPECT_EQ(ScrollSlotAt(view, 1), ScrollSlot::TowardsStart);
-    EXPECT_EQ(ScrollSlotAt(view, 8), ScrollSlot::None);
-    EXPECT_EQ(DrawnItems(view), Range(14, 20));
-    EXPECT_EQ(PlanScroll(20, 8, 9999, false, 50).first, 12);
-    EXPECT_EQ(PlanScroll(20, 8, 9999, false, -4).first, 0);
+TEST(PlanScroll, ScrollButtonsTakeTheSlotsAtTheCutEndsWithNoItemBehindThem) {
+    const struct {
+        int count, fitting, first;
+        int slots;
+        bool cut;
+        ScrollSlot top, bottom;
+        std::vector<int> drawn;
+    } cases[] = {
+        {5, 10, 3, 5, false, ScrollSlot::None, ScrollSlot::None, Range(1, 5)},               // fits
+        {8, 8, 0, 8, false, ScrollSlot::None, ScrollSlot::None, Range(1, 8)},                // fits exactly
+        {20, 8, 0, 8, true, ScrollSlot::None, ScrollSlot::TowardsEnd, Range(1, 7)},          // at the top
+        {20, 8, 5, 8, true, ScrollSlot::TowardsStart, ScrollSlot::TowardsEnd, Range(7, 12)}, // in the middle
+        {20, 8, 12, 8, true, ScrollSlot::TowardsStart, ScrollSlot::None, Range(14, 20)},     // at the end
+        {20, 8, 50, 8, true, ScrollSlot::TowardsStart, ScrollSlot::None, Range(14, 20)},     // past the end
+        {20, 8, -4, 8, true, ScrollSlot::None, ScrollSlot::TowardsEnd, Range(1, 7)},         // before the start
+    };
+    for (const auto& c : cases) {
+        ScrollView view = PlanScroll(c.count, c.fitting, 9999, false, c.first);
+        SCOPED_TRACE(::testing::Message() << c.count << " items, " << c.fitting << " fit, first " << c.first);
+        EXPECT_EQ(view.slots, c.slots);
+        EXPECT_EQ(IsCut(view), c.cut);
+        EXPECT_EQ(ScrollSlotAt(view, 1), c.top);
+        EXPECT_EQ(ScrollSlotAt(view, c.slots), c.bottom);
+        EXPECT_EQ(DrawnItems(view), c.drawn);
+        EXPECT_EQ(VisibleCount(view), c.slots) << "only a twin scroll slot maps to no item";
+        EXPECT_EQ(HiddenBefore(view), c.top != ScrollSlot::None);
+        EXPECT_EQ(HiddenAfter(view), c.bottom != ScrollSlot::None);
+    }
+    EXPECT_EQ(LargestFirst(PlanScroll(20, 8, 9999, false, 0)), 12);
 }
 
 TEST(PlanScroll, TwinScrollButtonsShareTheLastSlotWheneverTheMenuIsCut) {
@@ -81,12 +66,7 @@ TEST(PlanScroll, TwinScrollButtonsShareTheLastSlotWheneverTheMenuIsCut) {
         EXPECT_EQ(DrawnItems(view), Range(first + 1, first + 7));
     }
     EXPECT_EQ(LargestFirst(PlanScroll(20, 8, 9999, true, 0)), 13);
-}
-
-TEST(PlanScroll, TwinButtonsDoNotShowOnAMenuThatFits) {
-    ScrollView view = PlanScroll(6, 8, 9999, true, 0);
-    EXPECT_EQ(ScrollSlotAt(view, 6), ScrollSlot::None);
-    EXPECT_EQ(DrawnItems(view), Range(1, 6));
+    EXPECT_EQ(ScrollSlotAt(PlanScroll(6, 8, 9999, true, 0), 6), ScrollSlot::None) << "not on a menu that fits";
 }
 
 TEST(PlanScroll, MenuMaxNoItemsCutsAMenuThatWouldFitTheScreen) {
@@ -128,35 +108,20 @@ TEST(PlanScroll, EveryItemCanBeScrolledIntoView) {
     }
 }
 
-TEST(FirstToShow, LeavesADrawnItemWhereItIs) {
-    ScrollView view = PlanScroll(20, 8, 9999, false, 5);
-    EXPECT_EQ(FirstToShow(view, 7), 5);
-    EXPECT_EQ(FirstToShow(view, 12), 5);
-}
-
-TEST(FirstToShow, ScrollsAnItemBehindTheBottomScrollButtonUpByOne) {
-    ScrollView view = PlanScroll(20, 8, 9999, false, 0);
-    EXPECT_EQ(FirstToShow(view, 8), 1);
-    EXPECT_EQ(FirstToShow(view, 20), 12);
-}
-
-TEST(FirstToShow, ScrollsBackForAnItemAboveTheRun) {
-    ScrollView view = PlanScroll(20, 8, 9999, false, 5);
-    EXPECT_EQ(FirstToShow(view, 6), 4); // behind the top scroll button
-    EXPECT_EQ(FirstToShow(view, 3), 1);
-    EXPECT_EQ(FirstToShow(view, 2), 0);
-    EXPECT_EQ(FirstToShow(view, 1), 0);
-}
-
-TEST(FirstToShow, TwinButtonsLeaveTheLastSlotToThemselves) {
-    ScrollView view = PlanScroll(20, 8, 9999, true, 0);
-    EXPECT_EQ(FirstToShow(view, 7), 0);
-    EXPECT_EQ(FirstToShow(view, 8), 1);
-    EXPECT_EQ(FirstToShow(view, 20), 13);
-}
-
-TEST(FirstToShow, ItemsThatDoNotExistChangeNothing) {
-    ScrollView view = PlanScroll(20, 8, 9999, false, 5);
-    EXPECT_EQ(FirstToShow(view, 0), 5);
-    EXPECT_EQ(FirstToShow(view, 21), 5);
+TEST(FirstToShow, ScrollsJustEnoughToBringAnItemOutFromBehindTheScrollButtons) {
+    const struct {
+        bool twin;
+        int first, item, expected;
+    } cases[] = {
+        {false, 5, 7, 5},  {false, 5, 12, 5},  // drawn: left where it is
+        {false, 0, 8, 1},  {false, 0, 20, 12}, // behind the bottom scroll button or below it
+        {false, 5, 6, 4},  {false, 5, 3, 1},   // behind the top scroll button or above it
+        {false, 5, 2, 0},  {false, 5, 1, 0},   // the first items: back to the top
+        {true, 0, 7, 0},   {true, 0, 8, 1},    // twin buttons keep the last slot to themselves
+        {true, 0, 20, 13}, {false, 5, 0, 5},   // an item that does not exist changes nothing
+        {false, 5, 21, 5},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(FirstToShow(PlanScroll(20, 8, 9999, c.twin, c.first), c.item), c.expected)
+            << (c.twin ? "twin, " : "") << "first " << c.first << ", item " << c.item;
 }

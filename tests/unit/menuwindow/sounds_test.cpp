@@ -24,22 +24,17 @@ SoundFiles NumberedFiles() {
 
 } // namespace
 
-TEST(SoundEvents, OrderAndNamesOfTheSoundPage) {
+TEST(SoundEvents, OrderAndNamesOfTheSoundPageEachWithItsOwnFile) {
     const std::vector<std::string> names = {"Open Menu",      "Close Menu",         "Execute Item", "Roll Menu Up",
                                             "Roll Menu Down", "Menu Always on Top", "Rotate Menu"};
     ASSERT_EQ(names.size(), kSoundEventCount);
     for (std::size_t i = 0; i < kSoundEventCount; ++i)
         EXPECT_EQ(SoundEventName(static_cast<SoundEvent>(i)), names[i]);
-    // The settings hold one file per event.
+    // The settings hold one file per event, and each event plays its own.
     EXPECT_EQ(SettingsRec{}.SoundFx.size(), kSoundEventCount);
-}
-
-TEST(SoundEvents, EachEventPlaysItsOwnSoundFx) {
     SoundFiles files = NumberedFiles();
-    EXPECT_EQ(EventSoundFile(files, SoundEvent::OpenMenu), "fx0.wav");
-    EXPECT_EQ(EventSoundFile(files, SoundEvent::ExecuteItem), "fx2.wav");
-    EXPECT_EQ(EventSoundFile(files, SoundEvent::RollMenuDown), "fx4.wav");
-    EXPECT_EQ(EventSoundFile(files, SoundEvent::RotateMenu), "fx6.wav");
+    for (std::size_t i = 0; i < kSoundEventCount; ++i)
+        EXPECT_EQ(EventSoundFile(files, static_cast<SoundEvent>(i)), files[i]);
 }
 
 TEST(OpenMenuSound, HotspotThenMenuThenTheEventsFile) {

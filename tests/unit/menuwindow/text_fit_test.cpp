@@ -31,15 +31,21 @@ std::string Fit(std::string_view text, int room) {
 
 } // namespace
 
-TEST(FitText, TextThatFitsStaysWhole) {
-    EXPECT_EQ(Fit("Programs", 56), "Programs");
-    EXPECT_EQ(Fit("Programs", 500), "Programs");
-    EXPECT_EQ(Fit("", 0), "");
-}
-
-TEST(FitText, TextOnePixelTooWideEndsInEllipsis) {
-    // "Prog..." is 7 characters, 49 pixels; "Progr..." would be 56.
-    EXPECT_EQ(Fit("Programs", 55), "Prog...");
+TEST(FitText, KeepsWhatFitsElseCutsBeforeAnEllipsis) {
+    const struct {
+        const char* text;
+        int room;
+        const char* shown;
+    } cases[] = {
+        {"Programs", 56, "Programs"},  {"Programs", 500, "Programs"}, {"", 0, ""},
+        {"Programs", 55, "Prog..."},                            // one pixel short: "Progr..." would be 56
+        {"My Documents", 42, "My..."},                          // "My " fits, but the blank before the dots goes
+        {"Hello world", 27, "..."},                             // no character fits beside the dots
+        {"Hello world", 21, "..."},    {"Hello world", 20, ""}, // not even the dots fit
+        {"Hello world", 0, ""},        {"Hello world", -5, ""},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Fit(c.text, c.room), c.shown) << c.text << " in " << c.room;
 }
 
 TEST(FitText, TakesTheLongestBeginningThatFits) {
@@ -58,22 +64,6 @@ TEST(FitText, TakesTheLongestBeginningThatFits) {
     }
 }
 
-TEST(FitText, DropsTheBlanksBeforeTheEllipsis) {
-    // "My " fits with "..." but is shown as "My...".
-    EXPECT_EQ(Fit("My Documents", 42), "My...");
-}
-
-TEST(FitText, EllipsisAloneWhenNoCharacterFitsWithIt) {
-    EXPECT_EQ(Fit("Hello world", 27), "...");
-    EXPECT_EQ(Fit("Hello world", 21), "...");
-}
-
-TEST(FitText, NothingWhenNotEvenTheEllipsisFits) {
-    EXPECT_EQ(Fit("Hello world", 20), "");
-    EXPECT_EQ(Fit("Hello world", 0), "");
-    EXPECT_EQ(Fit("Hello world", -5), "");
-}
-
 TEST(FitText, NeverCutsInsideAUtf8Character) {
     // Measured per byte, the first byte of "Ä" and "..." would just fit; half a character may not be shown.
     EXPECT_EQ(FitText("\xC3\x84pfel", 28, PerByte), "...");
@@ -88,19 +78,13 @@ TEST(FitText, MeasuresFewTimesForALongText) {
     EXPECT_LE(measure.calls, 16);
 }
 
-TEST(AlignedStart, PlacesTheTextInTheBox) {
+TEST(AlignedStart, PlacesTheTextInTheBoxAndAtItsStartWhenLonger) {
     EXPECT_EQ(AlignedStart(10, 100, 40, kAlignLeft), 10);
     EXPECT_EQ(AlignedStart(10, 100, 40, kAlignCentre), 40);
     EXPECT_EQ(AlignedStart(10, 100, 40, kAlignRight), 70);
     EXPECT_EQ(AlignedStart(10, 100, 41, kAlignCentre), 39);
-}
-
-TEST(AlignedStart, OtherValuesAlignLeft) {
-    EXPECT_EQ(AlignedStart(10, 100, 40, 3), 10);
+    EXPECT_EQ(AlignedStart(10, 100, 40, 3), 10) << "other values align left";
     EXPECT_EQ(AlignedStart(10, 100, 40, -1), 10);
-}
-
-TEST(AlignedStart, TextLongerThanTheBoxStartsAtTheBoxStart) {
     EXPECT_EQ(AlignedStart(10, 100, 120, kAlignRight), 10);
     EXPECT_EQ(AlignedStart(10, 100, 100, kAlignCentre), 10);
 }

@@ -31,7 +31,6 @@ protected:
             WriteBytes(dir.File(name), "");
         ASSERT_TRUE(::CreateDirectoryW(Win::Widen(dir.File("Tools")).c_str(), nullptr));
         WriteBytes(dir.File("Tools\\inside.txt"), "");
-        settings.MenuFolderPosition = 0;
         settings.GenShowExtensions = false;
     }
 
@@ -81,21 +80,6 @@ TEST_F(FolderMenu, FoldersComeFirstThenFilesByNameWithoutExtensions) {
     EXPECT_EQ(listing.entries[4].PATH, Folder() + kJapanese);
     for (const DisplayEntry& entry : listing.entries)
         EXPECT_TRUE(FileExists(entry.PATH)) << entry.PATH;
-}
-
-TEST_F(FolderMenu, ExtensionsAndTheFolderPositionFollowTheSettings) {
-    settings.GenShowExtensions = true;
-    settings.MenuFolderPosition = 1;
-    EXPECT_EQ(Labels(ListFolder(Request(), settings)), (Strings{"a.exe", "B.TXT", "Привет.txt", "日本.doc", "Tools"}));
-
-    settings.MenuFolderPosition = 2;
-    EXPECT_EQ(Labels(ListFolder(Request(), settings)), (Strings{"a.exe", "B.TXT", "Tools", "Привет.txt", "日本.doc"}))
-        << "mixed: the folder takes its place among the files";
-
-    FolderListRequest executables = Request();
-    executables.filter = kFilterExecutables;
-    settings.MenuFolderPosition = 0;
-    EXPECT_EQ(Labels(ListFolder(executables, settings)), (Strings{"Tools", "a.exe"}));
 }
 
 TEST_F(FolderMenu, HiddenAndSystemEntriesFollowTheirSettings) {

@@ -2,32 +2,14 @@
 // files read back as text.
 #pragma once
 
-#include "core/message_box.h"
+#include "support/answered_message_boxes.h"
 #include "win/text_convert.h"
 
 #include <string>
-#include <utility>
-#include <vector>
 
 namespace MenuTests {
 
-// Records every message box and answers each with the same button.
-class AnsweredBoxes {
-public:
-    explicit AnsweredBoxes(int answer)
-        : previous_(MessageBoxes::SetHandler([this, answer](const MessageBoxes::Request& request) {
-              requests.push_back(request);
-              return answer;
-          })) {}
-    ~AnsweredBoxes() { MessageBoxes::SetHandler(std::move(previous_)); }
-    AnsweredBoxes(const AnsweredBoxes&) = delete;
-    AnsweredBoxes& operator=(const AnsweredBoxes&) = delete;
-
-    std::vector<MessageBoxes::Request> requests;
-
-private:
-    MessageBoxes::Handler previous_;
-};
+using AnsweredBoxes = TestSupport::AnsweredMessageBoxes;
 
 inline const std::string kUtf16Bom = "\xFF\xFE";
 

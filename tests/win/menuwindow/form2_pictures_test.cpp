@@ -1,7 +1,9 @@
-// The theme's pictures in a painted menu: title and button bitmaps stretched and tiled,
-// transparent buttons, the picture arrows and command-key symbols with their selected
-// forms, and parts whose picture is missing.
+// The theme's pictures in a painted menu, beyond what the end-to-end tests show: a button
+// picture over the whole body, transparent buttons, the picture arrows and command-key
+// symbols switching to their selected forms, a JPEG title, and the inactive title-bar
+// button picture falling back to the active one.
 #include "menu_window_fixture.h"
+#include "menuwindow/paint_title_buttons.h"
 #include "menuwindow/win/gdiplus_session.h"
 #include "support/temp_folder.h"
 #include "support/test_pictures.h"
@@ -11,6 +13,7 @@
 
 #include <gdiplus.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <string_view>
 #include <vector>
@@ -27,11 +30,6 @@ constexpr COLORREF kBlue = RGB(40, 60, 210);
 constexpr COLORREF kYellow = RGB(230, 210, 40);
 constexpr COLORREF kKey = RGB(255, 0, 255);
 
-// A pattern in which every pixel of an 8 x 8 tile differs from its neighbours.
-COLORREF Pattern(int x, int y) {
-    return RGB(20 + x * 28, 20 + y * 28, 90);
-}
-
 class PicturesTest : public MenuWindowTest {
 protected:
     void SetUp() override { settings.BitmapsFolder = folder.path(); }
@@ -39,15 +37,6 @@ protected:
 
     TestSupport::TempFolder folder;
 };
-
-// The pixels of a row of a rectangle that differ from the tiled pattern, counted from
-// origin, the corner the tiles start at.
-int MismatchesOfTiles(const WindowPicture& picture, const Rect& area, int y, MenuWindow::Point origin) {
-    int wrong = 0;
-    for (int x = area.left; x < area.right; ++x)
-        wrong += picture.At(x, y) == Pattern((x - origin.x) % 8, (y - origin.y) % 8) ? 0 : 1;
-    return wrong;
-}
 
 // A JPEG file of one colour, encoded by GDI+; false when no JPEG encoder was found.
 bool WriteSolidJpeg(const std::string& path, int width, int height, COLORREF colour) {
@@ -81,52 +70,6 @@ bool Near(COLORREF a, COLORREF b) {
 
 } // namespace
 
-TEST_F(PicturesTest, StretchedTitleAndButtonBitmapsShowTheirQuadrants) {
-    Quadrants title{kRed, kGreen, kBlue, kYellow};
-    Quadrants button{kYellow, kBlue, kGreen, kRed};
-    WriteBmp(File("TitleA.bmp"), 8, 8, title);
-    WriteBmp(File("buttona.BMP"), 8, 8, button);
-    settings.TitleBitmap = true;
-    settings.ButtonBitmap = true;
-    Form2* form = Open(MenuRecord(AddMenu("M", {"A long enough label", "Two"})));
-    ASSERT_TRUE(form);
-    WindowPicture picture(form->hwnd());
-    picture.Save("pictures-stretched");
-    Rect bar = form->scene().layout.title;
-    int quarter = bar.Width() / 4;
-    EXPECT_EQ(picture.At(bar.left + quarter, 2), kRed);
-    EXPECT_EQ(picture.At(bar.right - quarter, 2), kGreen);
-    EXPECT_EQ(picture.At(bar.left + quarter, bar.bottom - 3), kBlue);
-    EXPECT_EQ(picture.At(bar.right - quarter, bar.bottom - 3), kYellow);
-    for (int item : {1, 2}) {
-        Rect b = MenuWindow::ItemInWindow(form->scene(), item);
-        EXPECT_EQ(picture.At(b.left + 1, b.top + 2), kYellow) << "item " << item;
-        EXPECT_EQ(picture.At(b.right - 3, b.top + 2), kBlue) << "item " << item;
-        EXPECT_EQ(picture.At(b.left + 1, b.bottom - 3), kGreen) << "item " << item;
-        EXPECT_EQ(picture.At(b.right - 3, b.bottom - 3), kRed) << "item " << item;
-    }
-}
-
-TEST_F(PicturesTest, TiledBitmapsRepeatFromTheCornerOfEachPart) {
-    WriteBmp(File("TitleA.bmp"), 8, 8, Pattern);
-    WriteBmp(File("ButtonA.bmp"), 8, 8, Pattern);
-    settings.TitleBitmap = true;
-    settings.TitleTileBitmap = true;
-    settings.ButtonBitmap = true;
-    settings.ButtonTileBitmap = true;
-    Form2* form = Open(MenuRecord(AddMenu("M", {"Label", "Another label"})));
-    ASSERT_TRUE(form);
-    WindowPicture picture(form->hwnd());
-    picture.Save("pictures-tiled");
-    Rect bar = form->scene().layout.title;
-    ASSERT_GT(bar.Width(), 16) << "more than one tile across";
-    EXPECT_EQ(MismatchesOfTiles(picture, bar, bar.top + 1, {bar.left, bar.top}), 0);
-    EXPECT_EQ(MismatchesOfTiles(picture, bar, bar.bottom - 2, {bar.left, bar.top}), 0);
-    Rect second = MenuWindow::ItemInWindow(form->scene(), 2);
-    EXPECT_EQ(MismatchesOfTiles(picture, second, second.top + 1, {second.left, second.top}), 0);
-    EXPECT_EQ(MismatchesOfTiles(picture, second, second.bottom - 1, {second.left, second.top}), 0);
-}
-
 TEST_F(PicturesTest, ABitmapOverTheMenuSpansTheWholeBody) {
     WriteBmp(File("ButtonA.bmp"), 8, 8, Quadrants{kRed, kGreen, kBlue, kYellow});
     settings.ButtonBitmap = true;
@@ -149,7 +92,6 @@ TEST_F(PicturesTest, ATransparentButtonPictureLetsTheMenuColourThroughItsKeyColo
     Form2* form = Open(MenuRecord(AddMenu("M", {"A", "B"})));
     ASSERT_TRUE(form);
     WindowPicture picture(form->hwnd());
-    picture.Save("pictures-transparent");
     Rect b = MenuWindow::ItemInWindow(form->scene(), 2);
     EXPECT_EQ(picture.At(b.left + 1, b.top + 1), kButtonColour);
     EXPECT_EQ(picture.At(b.right - 2, b.bottom - 2), kButtonColour);
@@ -174,7 +116,6 @@ TEST_F(PicturesTest, PictureArrowsAndCommandKeySymbolsSwitchToTheirSelectedForms
     Rect withKey = MenuWindow::ItemInWindow(form->scene(), 2);
     {
         WindowPicture picture(form->hwnd());
-        picture.Save("pictures-symbols");
         EXPECT_GT(picture.Count(withArrow, kRed), 100) << "the arrow icon";
         EXPECT_GT(picture.Count(withKey, kBlue), 100) << "the command-key icon";
     }
@@ -189,48 +130,36 @@ TEST_F(PicturesTest, PictureArrowsAndCommandKeySymbolsSwitchToTheirSelectedForms
     EXPECT_GT(keySelected.Count(withArrow, kRed), 100) << "the arrow is back to normal";
 }
 
-TEST_F(PicturesTest, AnInactiveMenuWithoutInactiveArrowsShowsTheActiveOne) {
-    WriteIcon(File("ArrowA.ico"), 16, kRed);
-    settings.Menu3DArrows = 2;
-    settings.ButtonShowInactive = true;
-    int menu = AddMenu("M", {"Tools"});
-    ItemOf(menu, 0).TYPE = kItemMenuName;
-    ItemOf(menu, 0).PATH = "Tools";
-    Form2* form = Open(MenuRecord(menu));
-    ASSERT_TRUE(form);
-    form->SetInactive(true);
-    WindowPicture picture(form->hwnd());
-    EXPECT_GT(picture.Count(MenuWindow::ItemInWindow(form->scene(), 1), kRed), 100);
-}
-
-TEST_F(PicturesTest, MissingPicturesLeaveThePartsInTheirColoursAndTheArrowsDrawn) {
-    settings.TitleBitmap = true;
-    settings.ButtonBitmap = true;
-    settings.Menu3DArrows = 2;
-    int menu = AddMenu("M", {"Tools", "Editor"});
-    ItemOf(menu, 0).TYPE = kItemMenuName;
-    ItemOf(menu, 0).PATH = "Tools";
-    Form2* form = Open(MenuRecord(menu));
-    ASSERT_TRUE(form);
-    WindowPicture picture(form->hwnd());
-    Rect withArrow = MenuWindow::ItemInWindow(form->scene(), 1);
-    Rect arrowColumn{withArrow.right - 14, withArrow.top, withArrow.right, withArrow.bottom};
-    EXPECT_EQ(picture.At(1, 1), kTitleColour);
-    EXPECT_EQ(picture.At(withArrow.left + 1, withArrow.top + 1), kButtonColour);
-    EXPECT_LT(picture.Count(arrowColumn, kButtonColour), arrowColumn.Width() * arrowColumn.Height())
-        << "a drawn arrow stands in for the missing icon";
-}
-
 TEST_F(PicturesTest, AJpegTitlePictureShowsItsColourOverTheBar) {
     ASSERT_TRUE(WriteSolidJpeg(File("TitleA.jpg"), 16, 16, kGreen));
     settings.TitleBitmap = true;
     Form2* form = Open(MenuRecord(AddMenu("M", {"A long enough label"})));
     ASSERT_TRUE(form);
     WindowPicture picture(form->hwnd());
-    picture.Save("pictures-jpeg");
     Rect bar = form->scene().layout.title;
     for (int x : {bar.left + 2, bar.left + bar.Width() / 2, bar.right - bar.Width() / 4}) {
         COLORREF shown = picture.At(x, bar.top + 2);
         EXPECT_TRUE(Near(shown, kGreen)) << "at x " << x << ": 0x" << std::hex << shown;
     }
+}
+
+// The lookup falls back from the inactive name to the active one: a theme with only
+// closeA.ico still shows its close button on a parent menu.
+TEST_F(PicturesTest, AnActiveOnlyCloseIconServesTheInactiveMenuToo) {
+    settings.ButtonStyle = 2;
+    settings.CloseStatus = 3;
+    settings.RotateStatus = 0;
+    settings.RollUpStatus = 0;
+    settings.AlwaysOnTopStatus = 0;
+    settings.TitleShowInactive = true;
+    WriteIcon(File("closeA.ico"), 32, kRed);
+    Form2* form = Open(MenuRecord(AddMenu("Programs", {"Editor"})));
+    ASSERT_TRUE(form);
+    std::vector<MenuWindow::PlacedTitleButton> placed = MenuWindow::PlacedTitleButtons(form->scene());
+    ASSERT_EQ(placed.size(), 1u);
+    Rect close = placed.front().rect;
+    int side = std::min(close.Width(), close.Height());
+    EXPECT_GT(WindowPicture(form->hwnd()).Count(close, kRed), side * side / 2);
+    form->SetInactive(true);
+    EXPECT_GT(WindowPicture(form->hwnd()).Count(close, kRed), side * side / 2);
 }

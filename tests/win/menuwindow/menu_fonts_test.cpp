@@ -51,20 +51,16 @@ std::string InstalledFace() {
 
 } // namespace
 
-TEST(MenuFonts, AFaceTheSystemLacksBecomesArial) {
+TEST(MenuFonts, AFaceTheSystemHasIsKeptOneItLacksBecomesArial) {
     ASSERT_FALSE(FontFaceExists("No Such Face Tarvex"));
     MenuFonts fonts;
     fonts.Build(Look("No Such Face Tarvex", "No Such Face Either"), 96);
-    EXPECT_STREQ(Described(fonts.Get(FontRole::Title)).lfFaceName, L"Arial");
-    EXPECT_STREQ(Described(fonts.Get(FontRole::TitleVertical)).lfFaceName, L"Arial");
-    EXPECT_STREQ(Described(fonts.Get(FontRole::Button)).lfFaceName, L"Arial");
-}
+    for (FontRole role : {FontRole::Title, FontRole::TitleVertical, FontRole::Button})
+        EXPECT_STREQ(Described(fonts.Get(role)).lfFaceName, L"Arial");
 
-TEST(MenuFonts, AFaceTheSystemHasIsKept) {
     std::string face = InstalledFace();
     ASSERT_FALSE(face.empty());
     ASSERT_TRUE(FontFaceExists(face));
-    MenuFonts fonts;
     fonts.Build(Look(face, face), 96);
     EXPECT_EQ(Win::Narrow(Described(fonts.Get(FontRole::Title)).lfFaceName), face);
     EXPECT_EQ(Win::Narrow(Described(fonts.Get(FontRole::Button)).lfFaceName), face);

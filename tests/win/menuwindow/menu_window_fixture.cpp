@@ -1,39 +1,10 @@
 #include "menu_window_fixture.h"
 
 #include "menus/data_manager.h"
-#include "win/text_convert.h"
 
 #include <memory>
 
 namespace MenuWindowTests {
-
-SettingsRec PlainSettings() {
-    SettingsRec s;
-    s.TitleColor = kTitleColour;
-    s.TitleFontColor = kTitleTextColour;
-    s.TitleGradient = false;
-    s.TitleFlat = true;
-    s.TitleOverlap = false;
-    s.TitleVSize = 24;
-    s.TitleFontSize = 9;
-    s.ButtonColor = kButtonColour;
-    s.ButtonFontColor = kButtonTextColour;
-    s.ButtonGradient = false;
-    s.ButtonFlat = 1;
-    s.ButtonVSize = 22;
-    s.SelBar = true;
-    s.SelBarGradient = 0;
-    s.SelBarColor = kSelBarColour;
-    s.SelBarTextColor = kSelBarTextColour;
-    s.MenuNoFrames = 1;
-    s.TwinScrollButtons = false;
-    // No title-bar buttons: the whole bar shows its colour.
-    s.CloseStatus = 0;
-    s.RollUpStatus = 0;
-    s.RotateStatus = 0;
-    s.AlwaysOnTopStatus = 0;
-    return s;
-}
 
 WindowPicture::WindowPicture(HWND hwnd) {
     RECT rect{};
@@ -79,34 +50,12 @@ int WindowPicture::Count(const MenuWindow::Rect& area, COLORREF colour) const {
     return count;
 }
 
-std::string WindowPicture::Save(const std::string& name) const {
-    wchar_t module[MAX_PATH];
-    DWORD n = ::GetModuleFileNameW(nullptr, module, MAX_PATH);
-    std::wstring folder(module, n);
-    folder = folder.substr(0, folder.find_last_of(L'\\')) + L"\\menuwindow-pictures";
-    ::CreateDirectoryW(folder.c_str(), nullptr);
-    std::wstring path = folder + L"\\" + Win::Widen(name) + L".bmp";
-
-    BITMAPINFOHEADER info{};
-    info.biSize = sizeof info;
-    info.biWidth = width_;
-    info.biHeight = -height_;
-    info.biPlanes = 1;
-    info.biBitCount = 32;
-    info.biCompression = BI_RGB;
-    BITMAPFILEHEADER header{};
-    header.bfType = 0x4D42; // "BM"
-    header.bfOffBits = sizeof header + sizeof info;
-    DWORD size = static_cast<DWORD>(pixels_.size() * sizeof(std::uint32_t));
-    header.bfSize = header.bfOffBits + size;
-    Win::UniqueFileHandle file(
-        ::CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-    DWORD written = 0;
-    if (!file || !::WriteFile(file.get(), &header, sizeof header, &written, nullptr) ||
-        !::WriteFile(file.get(), &info, sizeof info, &written, nullptr) ||
-        !::WriteFile(file.get(), pixels_.data(), size, &written, nullptr))
-        return {};
-    return Win::Narrow(path);
+::testing::AssertionResult AllOf(const WindowPicture& picture, const MenuWindow::Rect& area, COLORREF colour) {
+    int count = picture.Count(area, colour);
+    int all = area.Width() * area.Height();
+    if (all > 0 && count == all)
+        return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << count << " of " << all << " pixels have colour 0x" << std::hex << colour;
 }
 
 int MenuWindowTest::AddMenu(const std::string& name, const std::vector<std::string>& labels) {

@@ -8,6 +8,7 @@
 #include "menuwindow/geometry.h"
 #include "menuwindow/win/form2.h"
 #include "menuwindow/win/open_menus.h"
+#include "support/plain_menu_settings.h"
 #include "win/handles.h"
 
 #include <gtest/gtest.h>
@@ -18,17 +19,12 @@
 
 namespace MenuWindowTests {
 
-// Colours that differ from each other and from every default, in 0x00BBGGRR.
-inline constexpr COLORREF kTitleColour = 0x00804020;
-inline constexpr COLORREF kTitleTextColour = 0x0000FFFF;
-inline constexpr COLORREF kButtonColour = 0x00C0E0D0;
-inline constexpr COLORREF kButtonTextColour = 0x00201010;
-inline constexpr COLORREF kSelBarColour = 0x003060F0;
-inline constexpr COLORREF kSelBarTextColour = 0x00FFFFFE;
-
-// Solid colours, flat parts, no frame and no title over the frame: every pixel of a
-// part that no text covers has the part's colour.
-SettingsRec PlainSettings();
+inline constexpr COLORREF kTitleColour = TestSupport::kPlainTitle;
+inline constexpr COLORREF kTitleTextColour = TestSupport::kPlainTitleText;
+inline constexpr COLORREF kButtonColour = TestSupport::kPlainButton;
+inline constexpr COLORREF kButtonTextColour = TestSupport::kPlainButtonText;
+inline constexpr COLORREF kSelBarColour = TestSupport::kPlainBar;
+inline constexpr COLORREF kSelBarTextColour = TestSupport::kPlainBarText;
 
 // A picture of a window as it paints itself, read pixel by pixel.
 class WindowPicture {
@@ -40,15 +36,15 @@ public:
     COLORREF At(int x, int y) const;
     // How many pixels of a rectangle have the colour.
     int Count(const MenuWindow::Rect& area, COLORREF colour) const;
-    // Saves the picture as a BMP file under the test program's folder, in
-    // "menuwindow-pictures"; returns the path, empty on failure.
-    std::string Save(const std::string& name) const;
 
 private:
     int width_ = 0;
     int height_ = 0;
     std::vector<std::uint32_t> pixels_; // top-down rows, 0x00RRGGBB
 };
+
+// Every pixel of the area has the colour.
+::testing::AssertionResult AllOf(const WindowPicture& picture, const MenuWindow::Rect& area, COLORREF colour);
 
 class MenuWindowTest : public ::testing::Test {
 protected:
@@ -65,7 +61,7 @@ protected:
     // Appends the record, makes its window and creates it (hidden, painted); null on failure.
     Form2* Open(MenuWindow::CascadeRec record);
 
-    SettingsRec settings = PlainSettings();
+    SettingsRec settings = TestSupport::PlainMenuSettings();
     MenuTable menus;
     OpenMenus openMenus;
 };
