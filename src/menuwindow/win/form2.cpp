@@ -74,7 +74,7 @@ void Form2::PlayOpenMenuSound() {
 }
 
 void Form2::SetLocalVariables() {
-    look_ = MenuWindow::LookFromSettings(settings_);
+    look_ = settings_;
 }
 
 MenuWindow::CascadeRec& Form2::Record() {

@@ -9,7 +9,7 @@ using namespace MenuWindow;
 namespace {
 
 MenuMetrics Metrics(bool icons, int dpi = 96) {
-    MenuLook look = LookFromSettings(SettingsRec{});
+    MenuLook look;
     look.ButtonTextOfset = 8;
     look.ButtonIcons = icons;
     look.ButtonIconSize = 16;
@@ -72,7 +72,7 @@ TEST(ButtonParts, ItemsWithoutArrowOrKeyKeepTheMenuColumnsEmpty) {
 }
 
 TEST(ButtonParts, IconIsCentredVertically) {
-    MenuLook look = LookFromSettings(SettingsRec{});
+    MenuLook look;
     look.ButtonIcons = true;
     look.ButtonIconSize = 32;
     look.ButtonVSize = 40;
@@ -87,7 +87,7 @@ TEST(ButtonParts, TextRoomNeverTurnsNegative) {
 }
 
 TEST(MenuMetrics, ScalesEverySizeAndRaisesItsFloors) {
-    MenuLook look = LookFromSettings(SettingsRec{});
+    MenuLook look;
     MenuMetrics m = MetricsOf(look, 144);
     EXPECT_EQ(m.titleThickness, 33);
     EXPECT_EQ(m.buttonHeight, 30);

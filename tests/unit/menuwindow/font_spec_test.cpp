@@ -28,7 +28,7 @@ TEST(FontSpecOf, TitleTurnedTitleAndButtonFonts) {
     settings.ButtonFontSize = 8;
     settings.ButtonFontBold = false;
     settings.ButtonFontItalic = true;
-    MenuLook look = LookFromSettings(settings);
+    MenuLook look = settings;
     EXPECT_EQ(FontSpecOf(look, FontRole::Title, 96), (FontSpec{"Georgia", -16, true, false, 0}));
     EXPECT_EQ(FontSpecOf(look, FontRole::TitleVertical, 96), (FontSpec{"Georgia", -16, true, false, 900}));
     EXPECT_EQ(FontSpecOf(look, FontRole::Button, 96), (FontSpec{"Verdana", -11, false, true, 0}));

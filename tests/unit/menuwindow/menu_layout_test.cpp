@@ -13,7 +13,7 @@ namespace {
 // The default look with round numbers: title 22, buttons 20 high, text offset 8, no
 // icons, no frame (and the title inside it), widths 0 to 300.
 MenuLook TestLook() {
-    MenuLook look = LookFromSettings(SettingsRec{});
+    MenuLook look;
     look.MenuNoFrames = 1;
     look.TitleOverlap = false;
     look.TwinScrollButtons = false;

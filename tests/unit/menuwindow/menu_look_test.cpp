@@ -10,7 +10,7 @@ using namespace MenuWindow;
 namespace {
 
 MenuLook DefaultLook() {
-    return LookFromSettings(SettingsRec{});
+    return {};
 }
 
 } // namespace

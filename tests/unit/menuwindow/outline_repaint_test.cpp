@@ -10,7 +10,7 @@ using namespace MenuWindow;
 namespace {
 
 MenuLayout LayoutWithTitle(TitlePlace place, bool framed) {
-    MenuLook look = LookFromSettings(SettingsRec{});
+    MenuLook look;
     look.TitlePosition = place == TitlePlace::Bottom ? 1 : place == TitlePlace::Left ? 2 : 0;
     look.MenuNoFrames = framed ? 0 : 1;
     look.TitleOverlap = false;

@@ -14,7 +14,7 @@ namespace {
 using Listing = std::vector<std::string>;
 
 MenuLook DefaultLook() {
-    return LookFromSettings(SettingsRec{});
+    return {};
 }
 
 MenuLook PictureSymbols() {

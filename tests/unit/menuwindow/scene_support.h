@@ -20,7 +20,7 @@ inline constexpr Colour kBarText = TestSupport::kPlainBarText;
 
 // Title 24 high, buttons 20 high, text offset 8, widths 0 to 300 (the defaults).
 inline MenuLook PlainLook() {
-    return LookFromSettings(TestSupport::PlainMenuSettings());
+    return TestSupport::PlainMenuSettings();
 }
 
 inline DisplayList Items(const std::vector<std::string>& labels) {

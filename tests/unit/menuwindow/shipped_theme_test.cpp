@@ -51,7 +51,7 @@ std::vector<std::string> ListThemeFolder() {
 MenuLook ThemeLook() {
     SettingsRec settings;
     LoadSettings(ReadThemeFile(), true, settings);
-    return LookFromSettings(settings);
+    return settings;
 }
 
 std::string FileHead(const std::string& name, std::size_t count) {

@@ -9,7 +9,7 @@ using namespace MenuWindow;
 namespace {
 
 MenuLook DefaultLook() {
-    return LookFromSettings(SettingsRec{});
+    return {};
 }
 
 MenuLook AllShown(int close, int rotate, int rollUp, int onTop) {

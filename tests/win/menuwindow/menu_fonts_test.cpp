@@ -28,7 +28,7 @@ MenuLook Look(const std::string& titleFace, const std::string& buttonFace) {
     settings.ButtonFont = buttonFace;
     settings.ButtonFontSize = 9;
     settings.ButtonFontBold = false;
-    return LookFromSettings(settings);
+    return settings;
 }
 
 int CALLBACK KeepFace(const LOGFONTW* font, const TEXTMETRICW*, DWORD type, LPARAM found) {
