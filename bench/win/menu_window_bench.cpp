@@ -4,6 +4,7 @@
 // brush, which is the floor any painting of that area stands on.
 //     menu_window_bench.exe [--rounds N]
 #include "core/settings.h"
+#include "core/win/system_values.h"
 #include "menus/data_manager.h"
 #include "menus/menu_records.h"
 #include "menuwindow/win/form2.h"
@@ -94,7 +95,7 @@ public:
         record.menuNumber = 1;
         record.openedByHotspot = true;
         record.position = {100, 0};
-        auto window = std::make_unique<Form2>(settings_, menus_, openMenus_, record.id);
+        auto window = std::make_unique<Form2>(settings_, menus_, SystemValues::ExecutableFolder(), openMenus_, record.id);
         Form2* form = window.get();
         openMenus_.Attach(index, std::move(window));
         if (!form->Create())

@@ -30,7 +30,8 @@ void LoadHotspot(Program& program, int hotspotIndex, int menuIndex) {
     MenuWindow::CascadeRec& record = openMenus.records().At(menuIndex);
     Hotspots::FillCascadeRecord(record, hotspot, hotspotIndex, program.menus);
     openMenus.forceOnTop = hotspot.ForceOnTop;
-    openMenus.Attach(menuIndex, std::make_unique<Form2>(program.settings, program.menus, openMenus, record.id));
+    openMenus.Attach(menuIndex, std::make_unique<Form2>(program.settings, program.menus, program.values.ProgramFolder, openMenus,
+                                                         record.id));
 }
 
 Form2* OpenHotspotMenu(Program& program, int hotspotIndex, MenuWindow::Point origin, MenuWindow::Point cursor) {

@@ -1,14 +1,14 @@
 // Form2's window: its class, its procedure, and its life from creation to unloading.
 #include "menuwindow/win/form2.h"
 
-#include "core/win/system_values.h"
 #include "menuwindow/menu_look.h"
 #include "menuwindow/win/play_sound.h"
 #include "menuwindow/win/ripple_menu.h"
 #include "win/text_convert.h"
 
-Form2::Form2(const SettingsRec& settings, const MenuTable& menus, OpenMenus& openMenus, int id)
-    : settings_(settings), menus_(menus), openMenus_(openMenus), id_(id) {}
+Form2::Form2(const SettingsRec& settings, const MenuTable& menus, std::string programFolder, OpenMenus& openMenus,
+             int id)
+    : settings_(settings), menus_(menus), programFolder_(std::move(programFolder)), openMenus_(openMenus), id_(id) {}
 
 Form2::~Form2() {
     Form_Unload();
@@ -68,8 +68,7 @@ void Form2::PlayOpenMenuSound() {
     std::string_view menuSound;
     if (record.kind == kItemMenuName && record.menuNumber >= 1 && record.menuNumber <= menus_.MenuCount())
         menuSound = menus_.menus[static_cast<std::size_t>(record.menuNumber - 1)].SOUNDPATH;
-    std::string programFolder = SystemValues::ExecutableFolder();
-    MenuWindow::SoundConditions conditions{MenuWindow::WaveDeviceAvailable(), settings_.GenSoundsOn, programFolder};
+    MenuWindow::SoundConditions conditions{MenuWindow::WaveDeviceAvailable(), settings_.GenSoundsOn, programFolder_};
     MenuWindow::PlaySoundFile(MenuWindow::OpenMenuSoundFile(settings_.SoundFx, hotspotSound, menuSound), conditions);
 }
 

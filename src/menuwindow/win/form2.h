@@ -22,6 +22,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 class Form2 {
@@ -29,8 +30,10 @@ public:
     static constexpr const wchar_t* kClassName = L"Tarvex2Menu";
 
     // The window of the cascade record with identifier id; settings and menus are the
-    // program's, read when the window takes its settings and builds its list.
-    Form2(const SettingsRec& settings, const MenuTable& menus, OpenMenus& openMenus, int id);
+    // program's, read when the window takes its settings and builds its list. Theme
+    // pictures and sounds given without a drive are found in the program folder.
+    Form2(const SettingsRec& settings, const MenuTable& menus, std::string programFolder, OpenMenus& openMenus,
+          int id);
     ~Form2();
     Form2(const Form2&) = delete;
     Form2& operator=(const Form2&) = delete;
@@ -98,6 +101,7 @@ private:
 
     const SettingsRec& settings_;
     const MenuTable& menus_;
+    std::string programFolder_;
     OpenMenus& openMenus_;
     int id_;
     MenuWindow::MenuLook look_;

@@ -3,7 +3,6 @@
 #include "menuwindow/win/form2.h"
 
 #include "menuwindow/menu_position.h"
-#include "core/win/system_values.h"
 #include "menuwindow/outline.h"
 #include "menuwindow/paint_button.h"
 #include "menuwindow/paint_menu.h"
@@ -28,7 +27,7 @@ void Form2::PaintMenu() {
     request.dpi = dpi;
     request.workArea = workArea;
     request.first = record.firstVisible;
-    pictures_.List(PictureFolderPath(look_.BitmapsFolder, SystemValues::ExecutableFolder()));
+    pictures_.List(PictureFolderPath(look_.BitmapsFolder, programFolder_));
     request.pictures = pictures_.Names();
     scene_ = BuildScene(std::move(request), fonts_);
     record.firstVisible = scene_.view().first;

@@ -4,6 +4,7 @@
 #include "menus/data_manager.h"
 #include "menuwindow/win/form2.h"
 #include "support/temp_folder.h"
+#include "support/test_pictures.h"
 #include "win/text_convert.h"
 
 #include <gtest/gtest.h>
@@ -122,4 +123,17 @@ TEST_F(HotspotOpeningTest, TheDefaultHotspotReplacesASettingsFileWithoutHotspots
     program.settings.HotSpots = std::vector<HotspotRec>(1);
     HotspotOpening::EnsureDefaultHotspot(program, file);
     EXPECT_EQ(program.settings.HotSpots, std::vector<HotspotRec>(1)) << "declared hotspots are kept";
+}
+
+// Started from another directory without "autostart", the program folder is not the
+// exe's; a theme folder given without a drive still belongs to the program folder.
+TEST_F(HotspotOpeningTest, ARelativeThemeFolderIsFoundInTheProgramFolder) {
+    TestSupport::TempFolder folder;
+    ASSERT_TRUE(::CreateDirectoryW(Win::Widen(folder.File("Pics")).c_str(), nullptr));
+    TestSupport::WriteBmp(folder.File("Pics\\TitleA.bmp"), 4, 4, [](int, int) { return RGB(1, 2, 3); });
+    program.values.ProgramFolder = folder.path();
+    program.settings.BitmapsFolder = "Pics";
+    Form2* form = HotspotOpening::OpenHotspotMenu(program, 0, {0, 0}, {0, 0});
+    ASSERT_NE(form, nullptr);
+    EXPECT_EQ(form->scene().pictures, std::vector<std::string>{"TitleA.bmp"});
 }

@@ -1,5 +1,6 @@
 #include "menu_window_fixture.h"
 
+#include "core/win/system_values.h"
 #include "menus/data_manager.h"
 
 #include <memory>
@@ -88,7 +89,7 @@ Form2* MenuWindowTest::Open(MenuWindow::CascadeRec record) {
     int index = openMenus.Append();
     record.id = openMenus.records().At(index).id;
     openMenus.records().At(index) = record;
-    auto window = std::make_unique<Form2>(settings, menus, openMenus, record.id);
+    auto window = std::make_unique<Form2>(settings, menus, SystemValues::ExecutableFolder(), openMenus, record.id);
     Form2* form = window.get();
     openMenus.Attach(index, std::move(window));
     return form->Create() ? form : nullptr;
