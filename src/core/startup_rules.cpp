@@ -81,4 +81,12 @@ std::int16_t FontPointSize(int height, int dotsPerInch) {
     return Text::ToInt16(points).value_or(0);
 }
 
+std::string SettingsNotWrittenMessage(std::string_view settingsFile) {
+    std::string text = "Tarvex could not write its settings file\n";
+    text += settingsFile;
+    text += "\n\nThe introduction will come back at the next start. Please make sure that the program "
+            "folder can be written to.";
+    return text;
+}
+
 } // namespace StartupRules

@@ -48,6 +48,9 @@ enum class TrayAction { None, ChoosePreferences, PopUpMenu };
 
 TrayAction TrayCallbackAction(int mouseMessage);
 
+// The warning when the first run cannot leave its settings file behind.
+std::string SettingsNotWrittenMessage(std::string_view settingsFile);
+
 // Screen measures: twips per pixel at a number of dots per inch, a twips length in
 // pixels, and a font height in pixels as points. Results are rounded.
 std::int16_t TwipsPerPixel(int dotsPerInch);

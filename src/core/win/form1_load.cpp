@@ -1,6 +1,8 @@
 // Form_Load: the program's start-up sequence, step by step in its fixed order.
 #include "core/win/form1.h"
 
+#include "core/message_box.h"
+#include "core/startup_rules.h"
 #include "core/win/settings_store.h"
 #include "core/win/subroutines.h"
 #include "core/win/system_values.h"
@@ -119,14 +121,16 @@ void Form1::OpenPreferencesAtStart() {
 
 // The introduction comes once: when the preferences have not written the settings
 // file by the time they close, the settings as they stand are written, so that the
-// next start is not a first run again.
+// next start is not a first run again. A folder that refuses the file is told, or the
+// user would meet the introduction at every start without knowing why.
 void Form1::RunFirstRun() {
     program_.values.PreferencesOpen = true;
     FirstRunIntroduction::ShowModal(program_.instance, window_.get(), program_.iconResource);
     Show_Setup_Screen();
     std::string settingsFile = SettingsFile(program_.values);
-    if (!SystemValues::FileExists(settingsFile))
-        SettingsStore::Save(settingsFile, false, program_.settings);
+    if (!SystemValues::FileExists(settingsFile) && !SettingsStore::Save(settingsFile, false, program_.settings))
+        MessageBoxes::MsgBox(StartupRules::SettingsNotWrittenMessage(settingsFile), "Tarvex Warning",
+                             MessageBoxes::kExclamation);
 }
 
 // The theme packages issue fills this: it unpacks each zip package waiting in the auto-install folder.

@@ -121,18 +121,21 @@ bool CreateUnicodeProfile(std::string_view file) {
     return ::WriteFile(h.get(), bom, sizeof bom, &written, nullptr) && written == sizeof bom;
 }
 
-void WriteValue(std::string_view section, std::string_view file, std::string_view key, std::string_view value) {
+bool WriteValue(std::string_view section, std::string_view file, std::string_view key, std::string_view value) {
     CreateUnicodeProfile(file);
     std::wstring wideSection = Win::Widen(section);
     std::wstring wideKey = Win::Widen(key);
     std::wstring wideValue = Win::Widen(value);
     std::wstring wideFile = Win::Widen(file);
-    ::WritePrivateProfileStringW(wideSection.c_str(), wideKey.c_str(), wideValue.c_str(), wideFile.c_str());
+    return ::WritePrivateProfileStringW(wideSection.c_str(), wideKey.c_str(), wideValue.c_str(), wideFile.c_str()) !=
+           FALSE;
 }
 
-void WriteAll(std::string_view file, const ProfileWrites& writes) {
+bool WriteAll(std::string_view file, const ProfileWrites& writes) {
     for (const ProfileWrite& w : writes)
-        WriteValue(w.section, file, w.key, w.value);
+        if (!WriteValue(w.section, file, w.key, w.value))
+            return false;
+    return true;
 }
 
 std::string FolderOfPath(std::string_view path) {

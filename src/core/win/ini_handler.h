@@ -22,12 +22,13 @@ std::string ReadValue(std::string_view key, std::string_view defaultValue);
 // long the list of names.
 std::int16_t ReadSection(ProfileSection& table);
 
-// Writes one value. A file that does not exist yet is created as UTF-16LE with a
-// byte-order mark, so that any character survives.
-void WriteValue(std::string_view section, std::string_view file, std::string_view key, std::string_view value);
+// Writes one value; false when the file could not be written. A file that does not
+// exist yet is created as UTF-16LE with a byte-order mark, so that any character survives.
+bool WriteValue(std::string_view section, std::string_view file, std::string_view key, std::string_view value);
 
-// Applies a list of writes to one file, in order.
-void WriteAll(std::string_view file, const ProfileWrites& writes);
+// Applies a list of writes to one file, in order. Stops at the first write that fails
+// and returns false; the writes before it stay.
+bool WriteAll(std::string_view file, const ProfileWrites& writes);
 
 // Reads a whole section of a file (sets the current target).
 ProfileSection ReadWholeSection(std::string_view section, std::string_view file);

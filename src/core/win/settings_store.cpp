@@ -29,8 +29,8 @@ void Load(std::string_view file, bool themeOnly, SettingsRec& settings) {
     LoadSettings(IniHandler::ReadWholeSection(kSettingsSection, file), themeOnly, settings);
 }
 
-void Save(std::string_view file, bool themeOnly, const SettingsRec& settings) {
-    IniHandler::WriteAll(file, SaveSettings(settings, themeOnly));
+bool Save(std::string_view file, bool themeOnly, const SettingsRec& settings) {
+    return IniHandler::WriteAll(file, SaveSettings(settings, themeOnly));
 }
 
 ProgramFolders ReadProgramFolders(std::string_view windowsFolder, bool isNT) {

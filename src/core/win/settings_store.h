@@ -14,8 +14,9 @@ namespace SettingsStore {
 void Load(std::string_view file, bool themeOnly, SettingsRec& settings);
 
 // Writes the keys in catalogue order; with themeOnly, the look keys alone. Keys the
-// file holds besides them stay. A new file is UTF-16 with a byte-order mark.
-void Save(std::string_view file, bool themeOnly, const SettingsRec& settings);
+// file holds besides them stay. A new file is UTF-16 with a byte-order mark. False when
+// the file could not be written.
+bool Save(std::string_view file, bool themeOnly, const SettingsRec& settings);
 
 // The "Programs", "Common Programs" and "Desktop" values of Explorer's Shell Folders,
 // with the fallbacks under the Windows folder for those that are missing.

@@ -6,6 +6,7 @@
 #include "harness/recording_tray.h"
 #include "harness/screen.h"
 #include "harness/tarvex.h"
+#include "win/text_convert.h"
 
 #include <gtest/gtest.h>
 
@@ -136,4 +137,24 @@ TEST(FirstRun, BothWordsOnAFirstRunGiveTheIntroductionThenThePreferencesOnce) {
     EXPECT_TRUE(WaitForNoVisibleWindow(kDialogClass, tarvex.processId(), 0ms)) << "the preferences opened twice";
     EXPECT_TRUE(folder.Exists("Helmora.ini"));
     EXPECT_FALSE(elsewhere.Exists("Helmora.ini"));
+}
+
+// A settings file that cannot be written (here a folder stands in its place) means the
+// introduction will come back; the user is told so instead of meeting it again unawares.
+TEST(FirstRun, ASettingsFileThatCannotBeWrittenIsReported) {
+    ProgramFolder folder;
+    ASSERT_TRUE(folder.ready());
+    ASSERT_TRUE(::CreateDirectoryW(Win::Widen(folder.File("Helmora.ini")).c_str(), nullptr));
+    Tarvex tarvex;
+    ASSERT_TRUE(tarvex.Start(folder));
+
+    ASSERT_NO_FATAL_FAILURE(GoThroughFirstRun(tarvex));
+    std::optional<WindowInfo> warning = WaitForMessageBox(tarvex.processId(), 30s);
+    ASSERT_TRUE(warning);
+    EXPECT_EQ(warning->title, "Tarvex Warning");
+    std::string text = DialogText(warning->hwnd);
+    EXPECT_NE(text.find("could not write its settings file"), std::string::npos) << text;
+    EXPECT_NE(text.find("Helmora.ini"), std::string::npos) << text;
+    ASSERT_TRUE(PressButton(warning->hwnd, "OK"));
+    EXPECT_TRUE(tarvex.WaitForMainForm()) << "the program goes on after the warning";
 }
