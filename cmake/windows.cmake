@@ -32,15 +32,21 @@ target_include_directories(tarvex2 PRIVATE ${CMAKE_SOURCE_DIR}/resources)
 set_source_files_properties(${CMAKE_SOURCE_DIR}/resources/tarvex2.rc PROPERTIES
     OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/resources/tarvex2.manifest;${CMAKE_SOURCE_DIR}/resources/tarvex2.ico")
 
-# Files the program expects beside itself.
-if(EXISTS ${CMAKE_SOURCE_DIR}/resources/DefMenu.ini)
-    add_custom_command(TARGET tarvex2 POST_BUILD
-        COMMAND ${CMAKE_COMMAND} -E copy_if_different ${CMAKE_SOURCE_DIR}/resources/DefMenu.ini
-                $<TARGET_FILE_DIR:tarvex2>/DefMenu.ini)
-endif()
-add_custom_command(TARGET tarvex2 POST_BUILD
-    COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/resources/themes/Aurora
-            $<TARGET_FILE_DIR:tarvex2>/Themes/Aurora)
+# Files the program expects beside itself, copied again whenever one of them changes.
+file(GLOB aurora_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/themes/Aurora/*)
+set(beside_exe_sources ${CMAKE_SOURCE_DIR}/resources/DefMenu.ini ${aurora_files})
+set(beside_exe_outputs)
+foreach(source IN LISTS beside_exe_sources)
+    file(RELATIVE_PATH relative ${CMAKE_SOURCE_DIR}/resources ${source})
+    string(REPLACE "themes/" "Themes/" relative ${relative})
+    set(output ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${relative})
+    add_custom_command(OUTPUT ${output}
+        COMMAND ${CMAKE_COMMAND} -E copy_if_different ${source} ${output}
+        DEPENDS ${source})
+    list(APPEND beside_exe_outputs ${output})
+endforeach()
+add_custom_target(tarvex2_files ALL DEPENDS ${beside_exe_outputs})
+add_dependencies(tarvex2 tarvex2_files)
 
 find_package(GTest REQUIRED)
 include(GoogleTest)
