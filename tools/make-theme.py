@@ -364,7 +364,7 @@ def arrow_picture(size, direction, light, dark):
 
 def command_key_picture(size, light, dark):
     s = size / 16.0
-    lo, hi, r, w = 5.6, 10.4, 2.25, 1.35
+    lo, hi, r, w = 5.6, 10.4, 2.25, 1.6
     c_lo, c_hi = lo - r, hi + r
 
     def glyph():
@@ -376,8 +376,9 @@ def command_key_picture(size, light, dark):
 
     shape = scaled(glyph, s)
     p = Picture(size, size)
-    soft(p, shifted(shape, 0.8 * s, 1.0 * s), BLACK, 0.6, 1.3 * s)
-    p.fill(inside(shape), lambda x, y: mix(lighten(light, 0.15), mix(light, dark, 0.6), y / size))
+    # A light glyph over a light shadow: at 16 pixels on a dark body a dark stroke vanishes.
+    soft(p, shifted(shape, 0.8 * s, 1.0 * s), BLACK, 0.4, 1.2 * s)
+    p.fill(inside(shape), lambda x, y: mix(lighten(light, 0.25), mix(light, dark, 0.3), y / size))
     return p
 
 
