@@ -5,26 +5,6 @@
 
 namespace MenuWindow {
 
-std::string_view SoundEventName(SoundEvent event) {
-    switch (event) {
-    case SoundEvent::OpenMenu:
-        return "Open Menu";
-    case SoundEvent::CloseMenu:
-        return "Close Menu";
-    case SoundEvent::ExecuteItem:
-        return "Execute Item";
-    case SoundEvent::RollMenuUp:
-        return "Roll Menu Up";
-    case SoundEvent::RollMenuDown:
-        return "Roll Menu Down";
-    case SoundEvent::MenuAlwaysOnTop:
-        return "Menu Always on Top";
-    case SoundEvent::RotateMenu:
-        return "Rotate Menu";
-    }
-    return {};
-}
-
 const std::string& EventSoundFile(const SoundFiles& soundFx, SoundEvent event) {
     return soundFx[static_cast<std::size_t>(event)];
 }

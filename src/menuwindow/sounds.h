@@ -27,10 +27,6 @@ inline constexpr std::size_t kSoundEventCount = 7;
 
 using SoundFiles = std::array<std::string, kSoundEventCount>;
 
-// The name the sound page shows: "Open Menu", "Close Menu", "Execute Item", "Roll Menu Up",
-// "Roll Menu Down", "Menu Always on Top", "Rotate Menu".
-std::string_view SoundEventName(SoundEvent event);
-
 // The file of an event; empty for none.
 const std::string& EventSoundFile(const SoundFiles& soundFx, SoundEvent event);
 
