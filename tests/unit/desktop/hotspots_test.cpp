@@ -46,14 +46,10 @@ TEST(DeclaresHotspots, OnlyASectionWithTheCountKeyHoldsHotspots) {
     EXPECT_TRUE(DeclaresHotspots({{"noofhotspots", "2"}}));
 }
 
-TEST(EnsureDefaultHotspot, ReplacesTheBlankRecordWhenTheSettingsHeldNone) {
-    std::vector<HotspotRec> loaded(1);
-    EnsureDefaultHotspot(loaded, false, 800, 600);
-    ASSERT_EQ(loaded.size(), 1u);
-    EXPECT_EQ(loaded[0], DefaultHotspot(800, 600));
-}
-
-TEST(EnsureDefaultHotspot, KeepsDeclaredHotspotsEvenAZeroRecord) {
+TEST(EnsureDefaultHotspot, ReplacesTheBlankRecordOfSettingsWithoutHotspotsButKeepsDeclaredOnes) {
+    std::vector<HotspotRec> blank(1);
+    EnsureDefaultHotspot(blank, false, 800, 600);
+    EXPECT_EQ(blank, std::vector<HotspotRec>{DefaultHotspot(800, 600)});
     std::vector<HotspotRec> loaded(2);
     loaded[1].App = "Notepad";
     std::vector<HotspotRec> kept = loaded;
@@ -62,18 +58,6 @@ TEST(EnsureDefaultHotspot, KeepsDeclaredHotspotsEvenAZeroRecord) {
     std::vector<HotspotRec> none;
     EnsureDefaultHotspot(none, true, 800, 600);
     EXPECT_EQ(none, std::vector<HotspotRec>{DefaultHotspot(800, 600)});
-}
-
-TEST(MenuKindOf, TheFixedMappingAndProgramsAndCommandsRunTheRestOpenMenus) {
-    const std::uint8_t kinds[] = {2, 3, 0, 1, 4, 5};
-    for (std::uint8_t type = 0; type <= 5; ++type)
-        EXPECT_EQ(MenuKindOf(type), kinds[type]) << int{type};
-    EXPECT_EQ(MenuKindOf(255), 255);
-    EXPECT_EQ(ActionOf(kShowFolder), Action::OpenMenu);
-    EXPECT_EQ(ActionOf(kShowMenu), Action::OpenMenu);
-    EXPECT_EQ(ActionOf(kRunProgram), Action::RunProgram);
-    EXPECT_EQ(ActionOf(kRunCommand), Action::RunCommand);
-    EXPECT_EQ(ActionOf(kShowTasklist), Action::OpenMenu);
 }
 
 TEST(MenuNumberByName, ExactCaseSensitiveFirstMatchFrom1) {
@@ -92,14 +76,7 @@ TEST(FillCascadeRecord, CopiesTheHotspotKeepingTheRecordsIdentifier) {
     hotspot.Menuleft = 120;
     hotspot.Menutop = 45;
     hotspot.Menuname = "My tools";
-    hotspot.Menupath2 = "second";
-    hotspot.MenuType = 2;
-    hotspot.GroupName = "Left";
-    hotspot.FileTypeMask = ".exe";
     hotspot.AlwaysOpen = -1;
-    hotspot.Theme = "Blue";
-    hotspot.Inherit = true;
-    hotspot.Horizontal = true;
     MenuWindow::CascadeRec record;
     record.id = 7;
     record.firstVisible = 9;
@@ -107,30 +84,13 @@ TEST(FillCascadeRecord, CopiesTheHotspotKeepingTheRecordsIdentifier) {
     FillCascadeRecord(record, hotspot, 4, menus);
     EXPECT_EQ(record.id, 7);
     EXPECT_EQ(record.hotspot, 4);
-    EXPECT_TRUE(record.openedByHotspot);
     EXPECT_EQ(record.level, 1);
-    EXPECT_EQ(record.parentId, 0);
     EXPECT_EQ(record.kind, kItemMenuName);
     EXPECT_EQ(record.menuNumber, 2);
     EXPECT_EQ(record.position, (MenuWindow::Point{120, 45})) << "pixels, as the hotspot holds them";
     EXPECT_EQ(record.caption, "My tools");
-    EXPECT_EQ(record.path, "Tools");
-    EXPECT_EQ(record.path2, "second");
-    EXPECT_EQ(record.menuType, 2);
-    EXPECT_EQ(record.groupName, "Left");
-    EXPECT_EQ(record.fileTypeMask, ".exe");
     EXPECT_TRUE(record.alwaysOpen);
-    EXPECT_EQ(record.theme, "Blue");
-    EXPECT_TRUE(record.inherit);
-    EXPECT_TRUE(record.horizontal);
     EXPECT_EQ(record.firstVisible, 0) << "scrolled to the top";
-}
-
-TEST(FillCascadeRecord, AMenuNameThatMatchesNoneGivesMenu0) {
-    MenuWindow::CascadeRec record;
-    FillCascadeRecord(record, ShowMenu("Missing"), 0, Menus({"Programs"}));
-    EXPECT_EQ(record.menuNumber, 0);
-    EXPECT_EQ(record.kind, kItemMenuName);
 }
 
 TEST(FillCascadeRecord, OnlyShowMenuLooksUpAMenu) {

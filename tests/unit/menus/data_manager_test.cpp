@@ -123,13 +123,6 @@ void RunRandomEditing(unsigned trial, int steps) {
     }
 }
 
-std::vector<std::string> Labels(const MenuTable& table, std::int32_t menu) {
-    std::vector<std::string> labels;
-    for (std::int32_t i = FindItem(table, menu, 0); i != -1; i = table.pool[i].next)
-        labels.push_back(table.pool[i].LABEL);
-    return labels;
-}
-
 } // namespace
 
 TEST(DataManager, AnswersLikeThePlainScanThroughRandomEditing) {
@@ -137,51 +130,4 @@ TEST(DataManager, AnswersLikeThePlainScanThroughRandomEditing) {
         SCOPED_TRACE(trial);
         RunRandomEditing(trial, 600);
     }
-}
-
-TEST(DataManager, AReusedSlotComesLastAndKeepsStartPathAndMask) {
-    MenuTable table;
-    for (const char* label : {"a", "b", "c"})
-        table.pool[AppendItem(table, 0)].LABEL = label;
-    MenuItemRec& b = table.pool[2];
-    b.TYPE = b.RUNSTATE = 2;
-    b.PATH = b.ARG = b.ICONPATH = "x";
-    b.HOTKEY = "65";
-    b.STARTPATH = "C:\\Work\\";
-    b.FILETYPEMASK = ".txt";
-    ASSERT_TRUE(DeleteItem(table, 0, 1));
-    EXPECT_EQ(table.pool[2].previous, 1); // the freed slot keeps its own links
-    EXPECT_EQ(table.pool[2].next, 3);
-    EXPECT_EQ(AppendItem(table, 0), 2);
-    EXPECT_EQ(table.pool.size(), 4u);
-    MenuItemRec expected;
-    expected.owner = 0;
-    expected.previous = 3;
-    expected.HOTKEY = "0";
-    expected.STARTPATH = "C:\\Work\\";
-    expected.FILETYPEMASK = ".txt";
-    EXPECT_EQ(table.pool[2], expected);
-    EXPECT_EQ(Labels(table, 0), (std::vector<std::string>{"a", "c", ""}));
-    EXPECT_EQ(table.pool[AppendItem(table, 0)].HOTKEY, ""); // a new slot starts empty
-}
-
-TEST(DataManager, AnswersNoneForAMissingMenuOrPositionAndTakesNoSlot) {
-    MenuTable table;
-    AppendItem(table, 0);
-    EXPECT_EQ(FindItem(table, -1, 0), kNoItem);
-    EXPECT_EQ(LastItem(table, 9), kNoItem);
-    EXPECT_EQ(LastItemPosition(table, 9), kNoItem);
-    EXPECT_EQ(AppendItem(table, -1), kNoItem);
-    EXPECT_EQ(InsertItem(table, 0, 1), kNoItem);
-    EXPECT_FALSE(DeleteItem(table, 0, 1));
-    EXPECT_EQ(table.pool.size(), 2u);
-}
-
-TEST(DataManager, ShiftMenuOwnersRefusesToMergeAMenuThatStillHasItems) {
-    MenuTable table;
-    table.pool[AppendItem(table, 0)].LABEL = "a";
-    table.pool[AppendItem(table, 1)].LABEL = "b";
-    EXPECT_FALSE(ShiftMenuOwners(table, 0));
-    EXPECT_FALSE(ShiftMenuOwners(table, -1));
-    EXPECT_EQ(Labels(table, 1), (std::vector<std::string>{"b"}));
 }

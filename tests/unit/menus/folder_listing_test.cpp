@@ -1,11 +1,7 @@
 #include "menus/folder_listing.h"
 
-#include "core/text.h"
-#include "menus/folder_sort.h"
-
 #include <gtest/gtest.h>
 
-#include <random>
 #include <string>
 #include <vector>
 
@@ -29,14 +25,12 @@ FolderListRequest Request(std::uint8_t filter = kFilterAllFiles, const std::stri
     return request;
 }
 
-// Feeds the entries of the first folder, then those of the second when it is listed.
-FolderListing List(const FolderListRequest& request, const SettingsRec& settings, const std::vector<DirEntry>& first,
-                   const std::vector<DirEntry>& second = {}) {
+// The entries found in the first folder. Folders first, hidden and system entries, the
+// second folder, an empty folder and the paths of real files are the Wine folder tests'.
+FolderListing List(const FolderListRequest& request, const SettingsRec& settings, const std::vector<DirEntry>& found) {
     FolderListBuilder builder(request, settings);
-    const Strings folders = builder.Folders();
-    for (std::size_t f = 0; f < folders.size(); ++f)
-        for (const DirEntry& entry : f == 0 ? first : second)
-            builder.Add(folders[f], entry);
+    for (const DirEntry& entry : found)
+        builder.Add(request.folder, entry);
     return builder.Finish();
 }
 
@@ -59,18 +53,6 @@ std::vector<DirEntry> Files(int count) {
     return files;
 }
 
-DisplayEntry Entry(const std::string& label, std::uint8_t type, const std::string& path, std::uint8_t filter = 0,
-                   const std::string& mask = "", const std::string& second = "") {
-    DisplayEntry entry;
-    entry.LABEL = label;
-    entry.TYPE = type;
-    entry.PATH = path;
-    entry.RUNSTATE = filter;
-    entry.FILETYPEMASK = mask;
-    entry.ARG = second;
-    return entry;
-}
-
 SettingsRec NoExtensions() {
     SettingsRec settings;
     settings.GenShowExtensions = false;
@@ -78,32 +60,6 @@ SettingsRec NoExtensions() {
 }
 
 } // namespace
-
-TEST(FolderListing, ListsFoldersFirstThenFilesWithoutPagefileAndFillsTheEntries) {
-    const FolderListing listing = List(Request(kFilterUserMask, ".exe.txt"), NoExtensions(),
-                                       {File("a.exe"), File("B.TXT"), File("pagefile.sys"), Folder("Tools")});
-    EXPECT_EQ(Labels(listing), (Strings{"Tools", "a", "B"}));
-    EXPECT_EQ(listing.folderCount, 1);
-    EXPECT_EQ(listing.entries[0], Entry("Tools", 2, "C:\\F\\Tools\\", kFilterUserMask, ".exe.txt"));
-    EXPECT_EQ(listing.entries[1], Entry("a", 0, "C:\\F\\a.exe"));
-}
-
-TEST(FolderListing, SkipsDotEntriesPagefileHiddenAndSystemEntriesByTheSettings) {
-    SettingsRec settings;
-    settings.GenShowHidden = settings.GenShowSystem = false;
-    const std::vector<DirEntry> found = {Folder("."),
-                                         Folder(".."),
-                                         File("PageFile.SYS"),
-                                         File("h.txt", 2),
-                                         Folder("H", 2),
-                                         File("s.txt", 4),
-                                         File(std::string("ok.txt\0junk", 11))};
-    EXPECT_EQ(Listed(settings, found), (Strings{"ok.txt"}));
-    settings.GenShowHidden = true;
-    EXPECT_EQ(Listed(settings, found), (Strings{"H", "h.txt", "ok.txt"}));
-    settings.GenShowSystem = true;
-    EXPECT_EQ(Listed(settings, found), (Strings{"H", "h.txt", "ok.txt", "s.txt"}));
-}
 
 TEST(FolderListing, SortsMixedCaseNamesWithFoldersAtTheTopTheBottomOrMixed) {
     const std::vector<DirEntry> found = {File("banana.txt"),
@@ -154,16 +110,6 @@ TEST(FolderListing, HidesExtensionsOfShortcutsAlwaysAndOfOtherFilesByTheSetting)
               (Strings{japanese}));
 }
 
-TEST(FolderListing, ListsASecondFolderIntoTheSameListUnlessItIsTheFirst) {
-    FolderListRequest request = Request();
-    request.secondFolder = "D:\\G\\";
-    const FolderListing listing = List(request, SettingsRec{}, {File("same.txt")}, {File("same.txt"), File("b.txt")});
-    EXPECT_EQ(Labels(listing), (Strings{"b.txt", "same.txt", "same.txt"}));
-    EXPECT_EQ(listing.entries[0].PATH, "D:\\G\\b.txt");
-    request.secondFolder = request.folder;
-    EXPECT_EQ(FolderListBuilder(request, SettingsRec{}).Folders(), (Strings{"C:\\F\\"}));
-}
-
 TEST(FolderListing, PutsMoreOnTopOrAtTheEndOfALongList) {
     SettingsRec settings;
     settings.MenuMaxNoItems = 10;
@@ -173,12 +119,13 @@ TEST(FolderListing, PutsMoreOnTopOrAtTheEndOfALongList) {
     EXPECT_EQ(Labels(top), (Strings{"More...", "f01.txt", "f02.txt", "f03.txt", "f04.txt", "f05.txt", "f06.txt",
                                     "f07.txt", "f08.txt", "f09.txt"}));
     EXPECT_EQ(top.moreIndex, 0u);
-    const DisplayEntry more = Entry("More...", 2, "C:\\F\\", kFilterUserMask, ".txt", "D:\\G\\");
-    EXPECT_EQ(top.entries[0], more);
+    const DisplayEntry& more = top.entries[0];
+    EXPECT_EQ(more.PATH, "C:\\F\\") << "it lists the same folders with the same filter";
+    EXPECT_EQ(more.ARG, "D:\\G\\");
+    EXPECT_EQ(more.FILETYPEMASK, ".txt");
     settings.ShowMoreOnTop = false;
     const FolderListing end = List(request, settings, Files(15));
     EXPECT_EQ(end.moreIndex, 9u);
-    EXPECT_EQ(end.entries[8].LABEL, "f09.txt");
     EXPECT_EQ(end.entries[9], more);
     EXPECT_FALSE(List(request, settings, Files(10)).moreIndex.has_value());
     settings.MenuMaxNoItems = 0; // still room for one entry beside "More..."
@@ -192,20 +139,11 @@ TEST(FolderListing, ASkipCountPagesThroughALongList) {
               (Strings{"More...", "f05.txt", "f06.txt", "f07.txt", "f08.txt"}));
     EXPECT_EQ(Listed(settings, Files(15), Request(kFilterAllFiles, "", 12)),
               (Strings{"f13.txt", "f14.txt", "f15.txt"}));
+    EXPECT_EQ(Listed(settings, Files(3), Request(kFilterAllFiles, "", 3)), (Strings{"(Empty)"})) << "past the end";
     const FolderListing listing =
         List(Request(kFilterAllFiles, "", 2), settings, {Folder("A"), Folder("B"), Folder("C"), File("x.txt")});
     EXPECT_EQ(Labels(listing), (Strings{"C", "x.txt"}));
     EXPECT_EQ(listing.folderCount, 1);
-}
-
-TEST(FolderListing, ShowsEmptyForNothingToList) {
-    for (const FolderListing& listing :
-         {List(Request(), SettingsRec{}, {}), List(Request(), SettingsRec{}, {Folder("."), Folder("..")}),
-          List(Request(kFilterAllFiles, "", 3), SettingsRec{}, Files(3))}) {
-        EXPECT_TRUE(listing.empty);
-        EXPECT_EQ(Labels(listing), (Strings{"(Empty)"}));
-        EXPECT_EQ(listing.folderCount, 0);
-    }
 }
 
 TEST(FolderListing, TurnsTheHourglassOnOnceAtTheTwoHundredthOrSeventiethListedEntry) {
@@ -221,38 +159,5 @@ TEST(FolderListing, TurnsTheHourglassOnOnceAtTheTwoHundredthOrSeventiethListedEn
                 if (builder.Add(k <= 100 ? "C:\\F\\" : "D:\\G\\", entry))
                     turnedOnAt.push_back(k);
         EXPECT_EQ(turnedOnAt, (std::vector<int>{early ? 70 : 200}));
-    }
-}
-
-TEST(FolderListing, SortEntriesLeavesEqualLabelsWhereThisQuicksortPutsThem) {
-    // The sort as it reads: recursion on both parts, lower-casing at every comparison.
-    const auto reading = [](auto& self, std::vector<DisplayEntry>& list, int first, int last) -> void {
-        int i = first, j = last;
-        const std::string pivot = Text::ToLower(list[(first + last) / 2].LABEL);
-        while (i <= j) {
-            while (Text::ToLower(list[i].LABEL) < pivot)
-                ++i;
-            while (Text::ToLower(list[j].LABEL) > pivot)
-                --j;
-            if (i <= j)
-                std::swap(list[i++], list[j--]);
-        }
-        if (first < j)
-            self(self, list, first, j);
-        if (i < last)
-            self(self, list, i, last);
-    };
-    const Strings words = {"a", "A", "b", "B", "ab", "Ab", "_", ""};
-    for (unsigned trial = 1; trial <= 200; ++trial) {
-        std::mt19937 random(trial);
-        std::vector<DisplayEntry> list(1 + random() % 60);
-        for (std::size_t k = 0; k < list.size(); ++k) {
-            list[k].LABEL = words[random() % words.size()];
-            list[k].PATH = std::to_string(k); // tells entries with equal labels apart
-        }
-        std::vector<DisplayEntry> expected = list;
-        reading(reading, expected, 0, static_cast<int>(list.size()) - 1);
-        SortEntries(list, 0, static_cast<std::ptrdiff_t>(list.size()) - 1);
-        ASSERT_EQ(list, expected) << "trial " << trial;
     }
 }

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 using namespace DataManager;
 
@@ -40,22 +39,6 @@ std::string MenuText(int i, const std::string& name, const char* inherit = "Fals
 
 } // namespace
 
-TEST(MenuFile, ANameOfMenuThreeAloneGivesTwoEmptyMenusBeforeIt) {
-    const MenuTable table = Loaded("[MENUS]\nNAME-3=Third\n");
-    ASSERT_EQ(table.MenuCount(), 3);
-    EXPECT_EQ(table.menus[1], MenuRec{});
-    EXPECT_EQ(table.menus[2], MenuRec{});
-    EXPECT_EQ(table.menus[3].NAME, "Third");
-}
-
-TEST(MenuFile, AKeyOfPositionFourFillsFivePositionsAndAllTheirKeysAreSaved) {
-    const MenuTable table = Loaded("[MENUS]\nNAME-1=M\n[MENU-1]\nLABEL-4=X\n");
-    std::string expected = "[MENUS]\n" + MenuText(1, "M") + "[MENU-1]\n";
-    for (int p = 0; p < 4; ++p)
-        expected += ItemText(p, "", 0, "", "");
-    EXPECT_EQ(TextOf(SaveMenuFile(table)), expected + ItemText(4, "X", 0, "", ""));
-}
-
 TEST(MenuFile, ReadsKeysInAnyCaseSplitAtTheFirstDashWithRoundedNumbers) {
     const MenuTable table = Loaded("[menus]\nname-1.4=Low\nInherit-1=-1\n"
                                    "[MENU-1]\nlabel-0=a-b\nType-0= 3.5\nrunstate-0=2abc\npath-2.5=p\nLABEL-0.6=c\n");
@@ -68,35 +51,10 @@ TEST(MenuFile, ReadsKeysInAnyCaseSplitAtTheFirstDashWithRoundedNumbers) {
     EXPECT_EQ(Item(table, 1, 1).LABEL, "c");
 }
 
-TEST(MenuFile, ReadsOnlyTheSectionsOfMenusListedInMenus) {
-    std::vector<std::string> asked;
-    const SectionReader file = ReaderOf("[MENUS]\nNAME-2=Two\n[MENU-3]\nLABEL-0=c\n");
-    MenuTable table;
-    LoadMenuFile(table, [&](std::string_view section) {
-        asked.emplace_back(section);
-        return file(section);
-    });
-    EXPECT_EQ(asked, (std::vector<std::string>{"MENUS", "MENU-1", "MENU-2"}));
-    EXPECT_EQ(LastItemPosition(table, 2), kNoItem);
-}
-
-TEST(MenuFile, ATypeOutsideAByteEndsTheLoadAtThatKey) {
-    MenuTable table;
-    const MenuLoadResult result =
-        LoadMenuFile(table, ReaderOf("[MENUS]\nNAME-1=One\nNAME-2=Two\n[MENU-1]\nLABEL-0=a\nTYPE-2=256\nPATH-0=p\n"
-                                     "[MENU-2]\nLABEL-0=b\n"));
-    EXPECT_FALSE(result.complete);
-    EXPECT_NE(result.error.find("[MENU-1] at TYPE-2=256"), std::string::npos) << result.error;
-    // What came before stays, the bad key's position was filled in, nothing after is read.
-    EXPECT_EQ(table.menus[2].NAME, "Two");
-    EXPECT_EQ(LastItemPosition(table, 0), 2);
-    EXPECT_EQ(Item(table, 1, 0).PATH, "");
-    EXPECT_EQ(LastItemPosition(table, 1), kNoItem);
-}
-
-TEST(MenuFile, ARunStateOutsideAByteOrANumberBeyondSixteenBitsEndsTheLoad) {
-    for (const char* text : {"[MENU-1]\nRUNSTATE-0=-1\n", "[MENU-1]\nRUNSTATE-0=255.5\n", "[MENU-1]\nLABEL-40000=x\n",
-                             "[MENUS]\nNAME-40000=x\n"}) {
+// What a load that ends keeps and the warning it gives are the Wine menu file tests'.
+TEST(MenuFile, AValueOutsideItsTypeEndsTheLoad) {
+    for (const char* text : {"[MENU-1]\nTYPE-0=256\n", "[MENU-1]\nRUNSTATE-0=-1\n", "[MENU-1]\nRUNSTATE-0=255.5\n",
+                             "[MENU-1]\nLABEL-40000=x\n", "[MENUS]\nNAME-40000=x\n"}) {
         MenuTable table;
         EXPECT_FALSE(LoadMenuFile(table, ReaderOf(std::string("[MENUS]\nNAME-1=M\n") + text)).complete) << text;
     }
@@ -126,8 +84,9 @@ TEST(MenuFile, SavesMenusFirstThenItemsInChainOrder) {
                                                "[MENU-2]\n" + ItemText(0, "", 4, "", ""));
 }
 
+// Menus and positions missing before the highest number are empty ones, saved with all
+// their keys; unknown names are ignored, but their numbers still size the table and the menu.
 TEST(MenuFile, AFileWithGapsLowerCaseAndUnknownKeysSettlesAfterOneSave) {
-    // Unknown names are ignored, but their numbers still size the table and the menu.
     const MenuTable first = Loaded("[menus]\nname-3=Third\ncolour-4=blue\nVERSION=7\n"
                                    "[MENU-3]\nlabel-1=Main\ntype-1=3\npath-1=Main\nextra-2=?\nhotkey-1=0\n");
     const std::string saved = TextOf(SaveMenuFile(first));

@@ -16,37 +16,6 @@ MenuRec Named(const char* name) {
 
 } // namespace
 
-TEST(CascadeList, RecordsAreNumberedFrom1AndGetFreshIdentifiers) {
-    CascadeList list;
-    EXPECT_EQ(list.Count(), 0);
-    EXPECT_EQ(list.Append(), 1);
-    EXPECT_EQ(list.Append(), 2);
-    EXPECT_EQ(list.At(1).id, 1);
-    EXPECT_EQ(list.At(2).id, 2);
-    EXPECT_EQ(list.IndexOf(2), 2);
-    EXPECT_EQ(list.IndexOf(7), 0);
-    EXPECT_EQ(list.Find(7), nullptr);
-}
-
-TEST(CascadeList, RemovingMovesTheLaterRecordsDownAndFreesTheIdentifier) {
-    CascadeList list;
-    list.Append();
-    list.Append();
-    list.Append();
-    list.At(3).level = 2;
-    list.Remove(1);
-    ASSERT_EQ(list.Count(), 2);
-    EXPECT_EQ(list.At(1).id, 2);
-    EXPECT_EQ(list.At(2).id, 3);
-    EXPECT_EQ(list.At(2).level, 2);
-    EXPECT_EQ(list.Find(3)->level, 2);
-    EXPECT_EQ(list.FreeId(), 1);
-    EXPECT_EQ(list.At(list.Append()).id, 1);
-    list.Remove(0);
-    list.Remove(9);
-    EXPECT_EQ(list.Count(), 3);
-}
-
 TEST(MenuTitle, TheCaptionElseTheMenusNameElseTheFoldersName) {
     MenuTable menus;
     menus.menus.push_back(Named("Programs"));
@@ -68,8 +37,6 @@ TEST(MenuTitle, TheCaptionElseTheMenusNameElseTheFoldersName) {
     folder.kind = kItemFolderPath;
     folder.path = "C:\\Program Files\\Tools\\";
     EXPECT_EQ(MenuTitle(folder, menus), "Tools");
-    folder.path = "D:\\Games";
-    EXPECT_EQ(MenuTitle(folder, menus), "Games");
 }
 
 TEST(FolderRequestOf, FoldersEndInABackslashAndTheFilterIsKnown) {
@@ -78,15 +45,10 @@ TEST(FolderRequestOf, FoldersEndInABackslashAndTheFilterIsKnown) {
     record.path = "C:\\Tools";
     record.path2 = "D:\\More";
     record.menuType = 3;
-    record.fileTypeMask = ".txt";
-    record.skip = 12;
     FolderListRequest request = FolderRequestOf(record);
     EXPECT_EQ(request.folder, "C:\\Tools\\");
     EXPECT_EQ(request.secondFolder, "D:\\More\\");
     EXPECT_EQ(request.filter, kFilterUserMask);
-    EXPECT_EQ(request.mask, ".txt");
-    EXPECT_EQ(request.skip, 12);
-
     record.menuType = 7;
     EXPECT_EQ(FolderRequestOf(record).filter, kFilterAllFiles);
     record.path = "C:\\Tools\\";

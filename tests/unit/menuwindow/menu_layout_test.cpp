@@ -1,7 +1,6 @@
 #include "menuwindow/menu_layout.h"
 
-#include "menuwindow/frame.h"
-#include "menuwindow/text_fit.h"
+#include "menuwindow/menu_shape.h"
 #include "print_helpers.h"
 
 #include <gtest/gtest.h>
@@ -50,9 +49,6 @@ TEST(LayOutMenu, VerticalMenuIsAsWideAsItsWidestItemWithinTheMinimumAndMaximum) 
     MenuLayout layout = Lay(look, Texts({60, 100, 80}));
     EXPECT_EQ(layout.buttons.buttonWidth, Need(100));
     EXPECT_EQ(layout.window, (Size{Need(100), 22 + 60}));
-    EXPECT_EQ(layout.titlePlace, TitlePlace::Top);
-    EXPECT_EQ(layout.title, (Rect{0, 0, Need(100), 22}));
-    EXPECT_EQ(layout.surface, (Rect{0, 22, Need(100), 82}));
 
     EXPECT_EQ(Lay(look, Texts({500})).buttons.buttonWidth, 300);
     look.ButtonMinWidth = 200;
@@ -68,66 +64,17 @@ TEST(LayOutMenu, VerticalMenuIsAsWideAsItsWidestItemWithinTheMinimumAndMaximum) 
     EXPECT_EQ(empty.surface.Height(), 0);
 }
 
-TEST(LayOutMenu, IconsAndColumnsWidenTheMenu) {
-    MenuLook look = TestLook();
-    look.ButtonIcons = true;
-    look.ButtonIconSize = 16;
-    MenuLayout layout = Lay(look, {{100, false, false, 0}, {40, true, true, 10}});
-    int hotkey = kHotkeySymbolWidth + 2 * kHotkeyGap + 10;
-    EXPECT_EQ(layout.columns, (Columns{hotkey, kArrowColumn}));
-    EXPECT_EQ(layout.buttons.buttonWidth, kIconMargin + 16 + Need(100) + hotkey + kArrowColumn);
-}
-
-TEST(LayOutMenu, ItemWiderThanTheMaximumEndsInEllipsis) {
-    auto measure = [](std::string_view text) { return 6 * static_cast<int>(text.size()); };
-    std::string label(80, 'w');
-    std::vector<ItemMeasure> items = {{measure(label), false, false, 0}};
-    MenuLayout layout = Lay(TestLook(), items);
-    const MenuMetrics metrics = Options(TestLook()).metrics;
-    ButtonParts parts =
-        PartsOf(ButtonRect(layout.buttons, 1), items[0], ColumnsFor(layout, items[0], metrics), metrics);
-    EXPECT_EQ(parts.text.Width(), 300 - 8 - kTextRightMargin);
-    std::string shown = FitText(label, parts.text.Width(), measure);
-    EXPECT_TRUE(shown.ends_with("...")) << shown;
-    EXPECT_LE(measure(shown), parts.text.Width());
-}
-
-TEST(LayOutMenu, TitleAtTheBottomUnderTheButtonsOrAtTheLeftAsTallAsThem) {
-    MenuLook look = TestLook();
-    look.TitlePosition = 1;
-    MenuLayout bottom = Lay(look, Texts({100, 100}));
-    EXPECT_EQ(bottom.surface, (Rect{0, 0, Need(100), 40}));
-    EXPECT_EQ(bottom.title, (Rect{0, 40, Need(100), 62}));
-    EXPECT_EQ(bottom.window, (Size{Need(100), 62}));
-
-    look.TitlePosition = 2;
-    MenuLayout left = Lay(look, Texts({100, 100, 100}));
-    EXPECT_EQ(left.titlePlace, TitlePlace::Left);
-    EXPECT_EQ(left.title, (Rect{0, 0, 22, 60}));
-    EXPECT_EQ(left.surface, (Rect{22, 0, 22 + Need(100), 60}));
-    EXPECT_EQ(left.window, (Size{22 + Need(100), 60}));
-}
-
 TEST(LayOutMenu, FrameLinesSurroundEverythingUnlessTheTitleStandsOverThem) {
     MenuLook look = TestLook();
     look.MenuNoFrames = 0;
     MenuLayout one = Lay(look, Texts({100}));
     EXPECT_EQ(one.title, (Rect{1, 1, 1 + Need(100), 23}));
-    EXPECT_EQ(one.surface, (Rect{1, 23, 1 + Need(100), 43}));
     EXPECT_EQ(one.window, (Size{2 + Need(100), 44}));
     look.Menu3DFrame2 = true;
-    MenuLayout two = Lay(look, Texts({100}));
-    EXPECT_EQ(two.surface, (Rect{2, 24, 2 + Need(100), 44}));
-    EXPECT_EQ(two.window, (Size{4 + Need(100), 46}));
-    EXPECT_EQ(LayOutMenu(Texts({100}), Options(look, false, 192), kScreen, 0).surface.left, 4);
-
     look.TitleOverlap = true;
     MenuLayout top = Lay(look, Texts({100}));
     EXPECT_EQ(top.title, (Rect{0, 0, top.window.width, 24}));
     EXPECT_EQ(top.surface.top, 24);
-    look.TitlePosition = 1;
-    MenuLayout under = Lay(look, Texts({100}));
-    EXPECT_EQ(under.title, (Rect{0, 22, under.window.width, under.window.height}));
     look.TitlePosition = 2;
     MenuLayout left = Lay(look, Texts({100}));
     EXPECT_EQ(left.title, (Rect{0, 0, 24, left.window.height}));
@@ -154,8 +101,6 @@ TEST(LayOutMenu, TallMenuShowsWhatFitsTheScreenAndAScrollButtonAtTheCut) {
     std::vector<ScrollButton> scroll = ScrollButtons(layout.buttons);
     ASSERT_EQ(scroll.size(), 1u);
     EXPECT_EQ(scroll[0], (ScrollButton{{0, 80, Need(100), 100}, true}));
-    EXPECT_FALSE(IsDrawn(layout.buttons.view, 5));
-    EXPECT_EQ(HitTest(layout.buttons, {5, 85}).kind, Hit::Kind::ScrollTowardsEnd);
 
     // The frame and the title count against the room; a title at the left takes no height.
     MenuLook look = TestLook();
@@ -168,54 +113,31 @@ TEST(LayOutMenu, TallMenuShowsWhatFitsTheScreenAndAScrollButtonAtTheCut) {
     EXPECT_EQ(Lay(look, items, false, 4 + 200).buttons.view.slots, 10);
 }
 
-TEST(LayOutMenu, SizesFollowTheDpi) {
-    MenuLayout layout = LayOutMenu(Texts({150}), Options(TestLook(), false, 144), kScreen, 0);
-    EXPECT_EQ(layout.title.Height(), 33);
-    EXPECT_EQ(layout.surface.Height(), 30);
-    EXPECT_EQ(layout.buttons.buttonWidth, 12 + 150 + 12);
-}
-
 TEST(LayOutMenu, HorizontalButtonsShareOneWidthWithHorzLockWidthElseEachFitsItsText) {
     MenuLook look = TestLook();
     MenuLayout locked = Lay(look, Texts({40, 100, 60}), true, 1024);
     EXPECT_EQ(locked.buttons.widths, (std::vector<int>{Need(100), Need(100), Need(100)}));
-    EXPECT_EQ(locked.titlePlace, TitlePlace::None); // HorzNoTitlebar is on by default
-    EXPECT_EQ(locked.window, (Size{3 * Need(100) + 1, 20}));
-    EXPECT_FALSE(locked.ownColumns);
+    EXPECT_EQ(locked.window, (Size{3 * Need(100) + 1, 20})) << "HorzNoTitlebar is on by default";
 
     look.HorzLockWidth = false;
     std::vector<ItemMeasure> items = {{40, false, false, 0}, {100, true, false, 0}, {60, false, false, 0}};
     MenuLayout own = Lay(look, items, true, 1024);
     EXPECT_EQ(own.buttons.widths, (std::vector<int>{Need(40), Need(100) + kArrowColumn, Need(60)}));
-    EXPECT_TRUE(own.ownColumns);
-    const MenuMetrics metrics = Options(look, true).metrics;
-    EXPECT_EQ(ColumnsFor(own, items[0], metrics), (Columns{0, 0}));
-    EXPECT_EQ(ColumnsFor(own, items[1], metrics), (Columns{0, kArrowColumn}));
 
     // A row that has to scroll keeps one width for all, so its slots stay put.
     int room = 4 * Need(100) + 1;
     MenuLayout scrolling = Lay(look, Texts({40, 100, 60, 40, 100, 60, 40, 100, 60, 40}), true, room);
     EXPECT_EQ(scrolling.buttons.view.slots, 4);
     EXPECT_EQ(scrolling.buttons.widths, std::vector<int>(4, Need(100)));
-    EXPECT_FALSE(scrolling.ownColumns);
-    std::vector<ScrollButton> scroll = ScrollButtons(scrolling.buttons);
-    ASSERT_EQ(scroll.size(), 1u);
-    EXPECT_EQ(scroll[0], (ScrollButton{ButtonRect(scrolling.buttons, 4), true}));
     EXPECT_LE(scrolling.window.width, room);
 }
 
 TEST(LayOutMenu, HorizontalTitleBarAndFrameChoices) {
     MenuLook look = TestLook();
     look.HorzNoTitlebar = false;
-    MenuLayout top = Lay(look, Texts({100, 100}), true, 1024);
-    EXPECT_EQ(top.titlePlace, TitlePlace::Top);
-    EXPECT_EQ(top.title, (Rect{0, 0, 2 * Need(100) + 1, 22}));
-    EXPECT_EQ(top.window, (Size{2 * Need(100) + 1, 42}));
+    EXPECT_EQ(Lay(look, Texts({100, 100}), true, 1024).titlePlace, TitlePlace::Top);
     look.MenuHorizontalStyle = 1;
-    MenuLayout left = Lay(look, Texts({100, 100}), true, 1024);
-    EXPECT_EQ(left.titlePlace, TitlePlace::Left);
-    EXPECT_EQ(left.title, (Rect{0, 0, 22, 20}));
-    EXPECT_EQ(left.window, (Size{22 + 2 * Need(100) + 1, 20}));
+    EXPECT_EQ(Lay(look, Texts({100, 100}), true, 1024).titlePlace, TitlePlace::Left);
 
     look.MenuHorizontalStyle = 0;
     look.MenuNoFrames = 0;
@@ -234,26 +156,4 @@ TEST(LayOutMenu, HorizontalTitleBarAndFrameChoices) {
     MenuShape shape = ShapeOf(look, false, false);
     EXPECT_EQ(shape.title, TitlePlace::Top);
     EXPECT_EQ(shape.frameLines, 1);
-    look.TitlePosition = 9;
-    EXPECT_EQ(ShapeOf(look, false, false).title, TitlePlace::Top);
-}
-
-TEST(FrameLines, FlatOrThreeDimensionalAndASecondLineInside) {
-    MenuLook look = TestLook();
-    look.MenuNoFrames = 0;
-    look.MenuFrameColor = 1;
-    look.MenuFrameColor2 = 2;
-    look.MenuFrameColor3 = 3;
-    look.MenuFrameColor4 = 4;
-    std::vector<FrameLine> flat = FrameLines(look, ShapeOf(look, false, false), {100, 50}, 1);
-    ASSERT_EQ(flat.size(), 1u);
-    EXPECT_EQ(flat[0], (FrameLine{{0, 0, 100, 50}, 1, 1, 1}));
-    look.Menu3DFrame = true;
-    look.Menu3DFrame2 = true;
-    std::vector<FrameLine> both = FrameLines(look, ShapeOf(look, false, false), {100, 50}, 2);
-    ASSERT_EQ(both.size(), 2u);
-    EXPECT_EQ(both[0], (FrameLine{{0, 0, 100, 50}, 2, 1, 2}));
-    EXPECT_EQ(both[1], (FrameLine{{2, 2, 98, 48}, 2, 3, 4}));
-    look.MenuNoFrames = 1;
-    EXPECT_TRUE(FrameLines(look, ShapeOf(look, false, false), {100, 50}, 1).empty());
 }

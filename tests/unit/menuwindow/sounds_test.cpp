@@ -24,19 +24,6 @@ SoundFiles NumberedFiles() {
 
 } // namespace
 
-TEST(SoundEvents, OrderAndNamesOfTheSoundPageEachWithItsOwnFile) {
-    const std::vector<std::string> names = {"Open Menu",      "Close Menu",         "Execute Item", "Roll Menu Up",
-                                            "Roll Menu Down", "Menu Always on Top", "Rotate Menu"};
-    ASSERT_EQ(names.size(), kSoundEventCount);
-    for (std::size_t i = 0; i < kSoundEventCount; ++i)
-        EXPECT_EQ(SoundEventName(static_cast<SoundEvent>(i)), names[i]);
-    // The settings hold one file per event, and each event plays its own.
-    EXPECT_EQ(SettingsRec{}.SoundFx.size(), kSoundEventCount);
-    SoundFiles files = NumberedFiles();
-    for (std::size_t i = 0; i < kSoundEventCount; ++i)
-        EXPECT_EQ(EventSoundFile(files, static_cast<SoundEvent>(i)), files[i]);
-}
-
 TEST(OpenMenuSound, HotspotThenMenuThenTheEventsFile) {
     SoundFiles files = NumberedFiles();
     EXPECT_EQ(OpenMenuSoundFile(files, "hot.wav", "menu.wav"), "hot.wav");

@@ -11,10 +11,7 @@ SettingsRec NonLatinSettings() {
     settings.TitleFont = "Микрософт Сэнс";
     settings.GenThemeAuthor = "Ελένη Παπαδοπούλου";
     settings.GenThemeName = "桜の季節 ☃";
-    settings.TitleColor = 0x0000FF;
-    settings.MenuDropDownDelay = 250;
     settings.GenShowInTray = false;
-    settings.HotSpots[0].App = "Program Manager";
     settings.HotSpots[0].Menupath1 = "C:\\Users\\Zoë\\Рабочий стол";
     settings.UserTasks.push_back({"Блокнот", "C:\\Windows\\notepad.exe", "C:\\Windows\\notepad.exe,0"});
     return settings;
@@ -46,22 +43,6 @@ TEST(SettingsStore, AMissingFileLoadsTheDefaults) {
     EXPECT_FALSE(TestSupport::FileExists(folder.File("Helmora.ini")));
 }
 
-TEST(SettingsStore, AThemeHoldsTheLookAndLoadingItKeepsTheRest) {
-    TestSupport::TempFolder folder;
-    std::string theme = folder.File("Sakura.wst");
-    SettingsRec saved = NonLatinSettings();
-    SettingsStore::Save(theme, true, saved);
-
-    SettingsRec current;
-    current.GenShowInTray = true;
-    current.GenThemeName = "before";
-    SettingsStore::Load(theme, true, current);
-    EXPECT_EQ(current.GenThemeName, "桜の季節 ☃");
-    EXPECT_EQ(current.TitleFont, "Микрософт Сэнс");
-    EXPECT_TRUE(current.GenShowInTray) << "a general key came from a theme";
-    EXPECT_TRUE(current.UserTasks.empty());
-}
-
 TEST(SettingsStore, KeysTheProgramDoesNotKnowStayInTheFile) {
     TestSupport::TempFolder folder;
     std::string file = folder.File("Helmora.ini");
@@ -72,12 +53,4 @@ TEST(SettingsStore, KeysTheProgramDoesNotKnowStayInTheFile) {
     SettingsStore::Load(file, false, loaded);
     EXPECT_EQ(loaded.TitleFont, "Arial");
     EXPECT_NE(TestSupport::ReadBytes(file).find("SomeoneElses=kept"), std::string::npos);
-}
-
-TEST(SettingsStore, ProgramFoldersEndWithABackslash) {
-    ProgramFolders folders = SettingsStore::ReadProgramFolders("C:\\windows", true);
-    for (const std::string* folder : {&folders.Programs, &folders.CommonPrograms, &folders.Desktop}) {
-        ASSERT_FALSE(folder->empty());
-        EXPECT_EQ(folder->back(), '\\') << *folder;
-    }
 }

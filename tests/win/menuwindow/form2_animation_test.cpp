@@ -82,25 +82,6 @@ TEST_P(RippleMenuTest, EndsOnTheUnanimatedImageWithoutClipOrSeeThroughStyle) {
 // 1 unroll, 2 slide, 3 ripple, 4 fade.
 INSTANTIATE_TEST_SUITE_P(EveryKind, RippleMenuTest, ::testing::Values(1, 2, 3, 4));
 
-TEST_F(MenuWindowTest, AnimationSwitchedOffShowsNoFrameAndLeavesTheWindowAsItIs) {
-    settings.GenAnimationOn = 0;
-    settings.AnimationType = 3;
-    settings.AnimationSpeed = MenuWindow::kFastestAnimationSpeed;
-    Form2* form = Open(MenuRecord(AddMenu("Programs", {"Editor"})));
-    ASSERT_TRUE(form);
-    form->Show();
-    EXPECT_EQ(form->AnimationFramesShown(), 0);
-    EXPECT_EQ(RegionKind(form->hwnd()), ERROR);
-    EXPECT_FALSE(IsLayered(form->hwnd()));
-
-    settings.GenAnimationOn = -1;
-    settings.AnimationSpeed = 0; // cannot be timed
-    Form2* untimed = Open(MenuRecord(AddMenu("Tools", {"Paint"}), {400, 80}));
-    ASSERT_TRUE(untimed);
-    untimed->Show();
-    EXPECT_EQ(untimed->AnimationFramesShown(), 0);
-}
-
 namespace {
 
 // The menu that a timer closes while its animation serves the queue.

@@ -1,7 +1,6 @@
 // The theme's pictures in a painted menu, beyond what the end-to-end tests show: a button
-// picture over the whole body, transparent buttons, the picture arrows and command-key
-// symbols switching to their selected forms, a JPEG title, and the inactive title-bar
-// button picture falling back to the active one.
+// picture over the whole body, transparent buttons, a JPEG title, and the inactive
+// title-bar button picture falling back to the active one.
 #include "menu_window_fixture.h"
 #include "menuwindow/paint_title_buttons.h"
 #include "menuwindow/win/gdiplus_session.h"
@@ -97,37 +96,6 @@ TEST_F(PicturesTest, ATransparentButtonPictureLetsTheMenuColourThroughItsKeyColo
     EXPECT_EQ(picture.At(b.right - 2, b.bottom - 2), kButtonColour);
     EXPECT_EQ(picture.At(b.right - b.Width() / 3, b.top + b.Height() / 2), kBlue);
     EXPECT_EQ(picture.Count(b, kKey), 0);
-}
-
-TEST_F(PicturesTest, PictureArrowsAndCommandKeySymbolsSwitchToTheirSelectedForms) {
-    WriteIcon(File("ArrowA.ico"), 16, kRed);
-    WriteIcon(File("ArrowAS.ico"), 16, kGreen);
-    WriteIcon(File("ComSymbA.ico"), 16, kBlue);
-    WriteIcon(File("ComSymbAS.ico"), 16, kYellow);
-    settings.Menu3DArrows = 2;
-    settings.HotkeyStyle = 2;
-    int menu = AddMenu("M", {"Tools", "Editor"});
-    ItemOf(menu, 0).TYPE = kItemMenuName;
-    ItemOf(menu, 0).PATH = "Tools";
-    ItemOf(menu, 1).HOTKEY = std::string(1, 'e'); // not a literal: GCC 12 warns falsely at -O3
-    Form2* form = Open(MenuRecord(menu));
-    ASSERT_TRUE(form);
-    Rect withArrow = MenuWindow::ItemInWindow(form->scene(), 1);
-    Rect withKey = MenuWindow::ItemInWindow(form->scene(), 2);
-    {
-        WindowPicture picture(form->hwnd());
-        EXPECT_GT(picture.Count(withArrow, kRed), 100) << "the arrow icon";
-        EXPECT_GT(picture.Count(withKey, kBlue), 100) << "the command-key icon";
-    }
-    form->SetSelection({1, false});
-    WindowPicture arrowSelected(form->hwnd());
-    EXPECT_GT(arrowSelected.Count(withArrow, kGreen), 100);
-    EXPECT_EQ(arrowSelected.Count(withArrow, kRed), 0);
-    form->SetSelection({2, false});
-    WindowPicture keySelected(form->hwnd());
-    EXPECT_GT(keySelected.Count(withKey, kYellow), 100);
-    EXPECT_EQ(keySelected.Count(withKey, kBlue), 0);
-    EXPECT_GT(keySelected.Count(withArrow, kRed), 100) << "the arrow is back to normal";
 }
 
 TEST_F(PicturesTest, AJpegTitlePictureShowsItsColourOverTheBar) {

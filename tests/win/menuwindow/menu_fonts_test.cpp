@@ -81,17 +81,3 @@ TEST(MenuFonts, TheTitleFontIsMadeUprightAndTurnedWithItsSizeWeightAndSlant) {
     EXPECT_EQ(button.lfHeight, -12);
     EXPECT_EQ(button.lfWeight, FW_NORMAL);
 }
-
-TEST(MenuFonts, MeasuresTextsInTheirFonts) {
-    MenuFonts fonts;
-    fonts.Build(Look("Arial", "Arial"), 96);
-    EXPECT_EQ(fonts.Width(FontRole::Button, ""), 0);
-    int shortText = fonts.Width(FontRole::Button, "Mail");
-    int longText = fonts.Width(FontRole::Button, "Mail and calendar");
-    EXPECT_GT(shortText, 0);
-    EXPECT_GT(longText, shortText);
-    EXPECT_EQ(fonts.Width(FontRole::TitleVertical, "Programs"), fonts.Width(FontRole::Title, "Programs"));
-    EXPECT_GT(fonts.Width(FontRole::Title, "Programs"), fonts.Width(FontRole::Button, "Programs"))
-        << "the title font is larger and bold";
-    EXPECT_GT(fonts.Height(FontRole::Title), fonts.Height(FontRole::Button));
-}
