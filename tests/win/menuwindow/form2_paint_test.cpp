@@ -48,6 +48,24 @@ TEST_F(MenuWindowTest, TheSelectionBarFollowsTheSelectionRepaintingOnlyTheButton
 }
 
 // The scroll button at the cut end itself is the end-to-end tests'; here, scrolling to an item.
+TEST_F(MenuWindowTest, RedrawButtonRepaintsOnlyWhenTheButtonsStateChanged) {
+    Form2* form = Open(MenuRecord(AddMenu("Programs", Labels(4))));
+    ASSERT_TRUE(form);
+    form->SetSelection({2, false});
+    int before = form->ButtonsDrawn();
+    form->RedrawButton(2);
+    form->RedrawButton(3);
+    EXPECT_EQ(form->ButtonsDrawn(), before) << "both are painted as they should be";
+
+    form->DrawButton(2, false); // painted against the selection
+    form->RedrawButton(2);
+    EXPECT_EQ(form->ButtonsDrawn(), before + 2);
+    EXPECT_TRUE(AllOf(WindowPicture(form->hwnd()), RightEnd(ItemInWindow(form->scene(), 2)), kSelBarColour));
+
+    form->ForceRedrawButton(3);
+    EXPECT_EQ(form->ButtonsDrawn(), before + 3);
+}
+
 TEST_F(MenuWindowTest, MakeButtonVisibleScrollsALongMenuToTheItemAndSelectsIt) {
     Form2* form = Open(MenuRecord(AddMenu("Programs", Labels(100)), {100, 0}));
     ASSERT_TRUE(form);
