@@ -11,6 +11,12 @@ std::string WithoutAmpersands(std::string text) {
     return text;
 }
 
+// Presses the button with the id as a click on it would.
+void PressButtonId(HWND dialog, int id) {
+    HWND button = ::GetDlgItem(dialog, id);
+    ::PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(button));
+}
+
 } // namespace
 
 std::optional<WindowInfo> WaitForMessageBox(DWORD processId, Duration timeout) {
@@ -29,19 +35,18 @@ std::string DialogText(HWND dialog) {
     return text;
 }
 
-bool PressButton(HWND dialog, const std::string& caption) {
+bool PressButton(HWND dialog, const std::string& caption, Duration timeout) {
     for (const WindowInfo& child : ChildWindows(dialog)) {
         if (child.className == "Button" && WithoutAmpersands(child.title) == caption) {
             PressButtonId(dialog, ::GetDlgCtrlID(child.hwnd));
-            return true;
+            return WaitForWindowGone(dialog, timeout);
         }
     }
     return false;
 }
 
-void PressButtonId(HWND dialog, int id) {
-    HWND button = ::GetDlgItem(dialog, id);
-    ::PostMessageW(dialog, WM_COMMAND, MAKEWPARAM(id, BN_CLICKED), reinterpret_cast<LPARAM>(button));
+bool WaitForWindowGone(HWND window, Duration timeout) {
+    return WaitUntil([window] { return !::IsWindow(window) || !::IsWindowVisible(window); }, timeout);
 }
 
 } // namespace E2e

@@ -20,10 +20,13 @@ std::optional<WindowInfo> WaitForMessageBox(DWORD processId, Duration timeout = 
 // its message.
 std::string DialogText(HWND dialog);
 
-// Presses the button whose caption, without its '&', is the given one ("Yes", "OK").
-// False when the dialog has no such button.
-bool PressButton(HWND dialog, const std::string& caption);
-// Presses the button with the id (IDYES, IDNO ...) as a click on it would.
-void PressButtonId(HWND dialog, int id);
+// Presses the button whose caption, without its '&', is the given one ("Yes", "OK"),
+// and waits for the dialog to close: a box that was answered is gone before the test
+// looks for the next one, which would otherwise find the answered box still up. False
+// when the dialog has no such button or is still open when the time is up.
+bool PressButton(HWND dialog, const std::string& caption, Duration timeout = 10s);
+
+// True when the window is destroyed or hidden before the time is up.
+bool WaitForWindowGone(HWND window, Duration timeout);
 
 } // namespace E2e

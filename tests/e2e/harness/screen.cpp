@@ -23,6 +23,54 @@ COLORREF ReadPixel(int x, int y) {
     return ::GetPixel(screen.get(), x, y);
 }
 
+std::vector<std::uint32_t> ReadArea(const RECT& area) {
+    int width = area.right - area.left;
+    int height = area.bottom - area.top;
+    if (width <= 0 || height <= 0)
+        return {};
+    Win::WindowDc screen(nullptr);
+    Win::UniqueMemoryDc memory(::CreateCompatibleDC(screen.get()));
+    Win::UniqueBitmap bitmap(::CreateCompatibleBitmap(screen.get(), width, height));
+    if (!memory || !bitmap)
+        return {};
+    {
+        Win::SelectGuard select(memory.get(), bitmap.get());
+        ::BitBlt(memory.get(), 0, 0, width, height, screen.get(), area.left, area.top, SRCCOPY | CAPTUREBLT);
+    }
+    BITMAPINFOHEADER info{};
+    info.biSize = sizeof info;
+    info.biWidth = width;
+    info.biHeight = -height; // top-down rows
+    info.biPlanes = 1;
+    info.biBitCount = 32;
+    info.biCompression = BI_RGB;
+    std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width) * height);
+    if (!::GetDIBits(memory.get(), bitmap.get(), 0, static_cast<UINT>(height), pixels.data(),
+                     reinterpret_cast<BITMAPINFO*>(&info), DIB_RGB_COLORS))
+        return {};
+    return pixels;
+}
+
+bool WaitForSteadyImage(HWND window, Duration timeout) {
+    constexpr Duration kLookApart = 150ms;
+    std::vector<std::uint32_t> before;
+    RECT beforeRect{};
+    return WaitUntil(
+        [&] {
+            RECT rect{};
+            if (!::IsWindowVisible(window) || !::GetWindowRect(window, &rect))
+                return false;
+            std::vector<std::uint32_t> now = ReadArea(rect);
+            bool steady = !now.empty() && ::EqualRect(&rect, &beforeRect) && now == before;
+            before = std::move(now);
+            beforeRect = rect;
+            if (!steady)
+                Settle(kLookApart);
+            return steady;
+        },
+        timeout);
+}
+
 bool SaveScreenshot(const std::string& path) {
     int width = ::GetSystemMetrics(SM_CXVIRTUALSCREEN);
     int height = ::GetSystemMetrics(SM_CYVIRTUALSCREEN);

@@ -2,6 +2,7 @@
 // program folder, a start-up menu painted with its pictures. The screenshot is saved as
 // "menuwindow-aurora.bmp" for a person to look at.
 #include "harness/failure_screenshots.h"
+#include "harness/menu_window.h"
 #include "harness/program_folder.h"
 #include "harness/screen.h"
 #include "harness/tarvex.h"
@@ -105,9 +106,8 @@ TEST(AuroraTheme, TheShippedThemePaintsAStartUpMenuWithItsPictures) {
 
     Tarvex tarvex;
     ASSERT_TRUE(tarvex.Start(folder));
-    std::optional<WindowInfo> menu = WaitForVisibleWindow("Tarvex2Menu", tarvex.processId(), std::chrono::seconds(30));
+    std::optional<WindowInfo> menu = WaitForMenuWindow(tarvex.processId());
     ASSERT_TRUE(menu) << "no menu window opened at start";
-    Settle(std::chrono::milliseconds(500));
     std::string screenshots = ScreenshotFolder();
     ::CreateDirectoryW(Win::Widen(screenshots).c_str(), nullptr);
     EXPECT_TRUE(SaveScreenshot(screenshots + "\\menuwindow-aurora.bmp"));

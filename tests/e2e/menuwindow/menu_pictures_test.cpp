@@ -4,6 +4,7 @@
 // folder, named by a relative BitmapsFolder; the menu stands at Menuleft/Menutop, so
 // each check reads the screen where a known pixel of a picture must be shown.
 #include "harness/failure_screenshots.h"
+#include "harness/menu_window.h"
 #include "harness/program_folder.h"
 #include "harness/screen.h"
 #include "harness/tarvex.h"
@@ -107,10 +108,9 @@ protected:
         folder_.WriteBytes("TvMenus.ini", kMenus);
         if (!tarvex_.Start(folder_))
             return std::nullopt;
-        std::optional<WindowInfo> menu = WaitForVisibleWindow("Tarvex2Menu", tarvex_.processId(), 30s);
+        std::optional<WindowInfo> menu = WaitForMenuWindow(tarvex_.processId());
         if (!menu)
             return std::nullopt;
-        Settle(400ms);
         std::string screenshots = ScreenshotFolder();
         ::CreateDirectoryW(Win::Widen(screenshots).c_str(), nullptr);
         EXPECT_TRUE(SaveScreenshot(screenshots + "\\menuwindow-" + screenshot + ".bmp"));

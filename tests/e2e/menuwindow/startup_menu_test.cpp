@@ -2,6 +2,7 @@
 // Folder opens its menu window, placed and painted as the settings say. Each test saves
 // a screenshot of the look it checks in the screenshot folder.
 #include "harness/failure_screenshots.h"
+#include "harness/menu_window.h"
 #include "harness/program_folder.h"
 #include "harness/screen.h"
 #include "harness/tarvex.h"
@@ -18,7 +19,6 @@ namespace {
 
 using namespace E2e;
 
-constexpr const char* kMenuClass = "Tarvex2Menu";
 constexpr COLORREF kTitleColour = 0x00803010; // 0x00BBGGRR
 constexpr COLORREF kTitleTextColour = 0x0000E0FF;
 constexpr COLORREF kButtonColour = 0x00F0E8E0;
@@ -79,10 +79,7 @@ protected:
         folder_.WriteBytes("TvMenus.ini", menuFile);
         if (!tarvex_.Start(folder_))
             return std::nullopt;
-        std::optional<WindowInfo> menu = WaitForVisibleWindow(kMenuClass, tarvex_.processId(), 30s);
-        if (menu)
-            Settle(300ms); // let the window finish its first paint
-        return menu;
+        return WaitForMenuWindow(tarvex_.processId());
     }
 
     // Saves the screen as "menuwindow-<name>.bmp" in the screenshot folder.
