@@ -69,6 +69,17 @@ bool StartsWithIgnoreCase(std::string_view s, std::string_view prefix) {
     return s.size() >= prefix.size() && EqualsIgnoreCase(s.substr(0, prefix.size()), prefix);
 }
 
+// Every byte that does not continue a sequence starts a character; four-byte sequences
+// take two units.
+std::size_t Utf16Length(std::string_view utf8) {
+    std::size_t units = 0;
+    for (unsigned char c : utf8) {
+        if ((c & 0xC0) != 0x80)
+            units += c >= 0xF0 ? 2 : 1;
+    }
+    return units;
+}
+
 std::string_view Trim(std::string_view s) {
     while (!s.empty() && s.front() == ' ')
         s.remove_prefix(1);

@@ -15,6 +15,9 @@ std::string ToLower(std::string_view s);
 bool EqualsIgnoreCase(std::string_view a, std::string_view b);
 bool StartsWithIgnoreCase(std::string_view s, std::string_view prefix);
 
+// The number of UTF-16 units the UTF-8 text takes, which is how Windows measures paths.
+std::size_t Utf16Length(std::string_view utf8);
+
 // Removes leading and trailing spaces (not tabs), as the profile code expects.
 std::string_view Trim(std::string_view s);
 

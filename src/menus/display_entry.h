@@ -15,5 +15,6 @@ struct DisplayEntry {
     std::string FILETYPEMASK;
     std::string ICONPATH;
     std::string HOTKEY;
+    std::uint64_t taskWindow = 0; // an entry of a task-list menu: the handle of its window
     bool operator==(const DisplayEntry&) const = default;
 };

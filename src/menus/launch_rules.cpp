@@ -60,6 +60,14 @@ std::string StartFolderFor(std::string_view startFolder, std::string_view path) 
     return std::string(path.substr(0, slash + 1));
 }
 
+bool PathFitsTheShell(std::string_view path) {
+    constexpr std::size_t kLongestFile = 259;
+    constexpr std::size_t kLongestAddress = 2083;
+    std::size_t length = Text::Utf16Length(path);
+    bool address = path.find("://") != std::string_view::npos;
+    return length <= (address ? kLongestAddress : kLongestFile);
+}
+
 int ShowCommandFor(int runState) {
     return runState + 1;
 }

@@ -25,6 +25,13 @@ std::string StartFolderFor(std::string_view startFolder, std::string_view path);
 // RUNSTATE 0 normal, 1 minimised, 2 maximised, as the show command 1, 2 or 3.
 int ShowCommandFor(int runState);
 
+// Whether the shell can be asked to start a path at all: a file's path fits in MAX_PATH
+// (259 characters), an address (a "scheme://" path) in the 2083 of an Internet address.
+// A longer path is reported as kFileNotFound without asking the shell, which some
+// versions of it do not survive.
+bool PathFitsTheShell(std::string_view path);
+inline constexpr std::intptr_t kFileNotFound = 2;
+
 // The shell's start functions report success with a result above 32.
 bool StartFailed(std::intptr_t result);
 

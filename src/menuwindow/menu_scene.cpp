@@ -54,4 +54,9 @@ Rect ItemInWindow(const MenuScene& scene, int item) {
     return SlotInWindow(scene, position);
 }
 
+Hit HitInWindow(const MenuScene& scene, Point point) {
+    const Rect& surface = scene.layout.surface;
+    return HitTest(scene.layout.buttons, {point.x - surface.left, point.y - surface.top});
+}
+
 } // namespace MenuWindow

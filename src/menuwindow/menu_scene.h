@@ -58,4 +58,8 @@ Rect SlotInWindow(const MenuScene& scene, int position);
 // the visible run, or behind a scroll button).
 Rect ItemInWindow(const MenuScene& scene, int item);
 
+// What a point of the window is over: an item or a scroll button of the surface, or
+// nothing (the title bar, the frame, past the last item).
+Hit HitInWindow(const MenuScene& scene, Point point);
+
 } // namespace MenuWindow

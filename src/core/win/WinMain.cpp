@@ -3,6 +3,7 @@
 #include "core/win/form1.h"
 #include "core/win/message_box_win.h"
 #include "core/win/program.h"
+#include "win/com_apartment.h"
 #include "win/text_convert.h"
 
 #include "resource_ids.h"
@@ -23,6 +24,7 @@ int RunMessageLoop() {
 } // namespace
 
 int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR arguments, int) {
+    Win::ComApartment com;
     MessageBoxes::InstallWindowsHandler();
     Program program;
     program.instance = instance;

@@ -26,11 +26,14 @@ HICON ProgramIcon(const Program& program, int size) {
 
 } // namespace
 
-Form1::Form1(Program& program) : program_(program) {}
+Form1::Form1(Program& program) : program_(program) {
+    program_.openMenus.choices = &menuLauncher_;
+}
 
 // The window goes first, while the object it calls back into is still whole.
 Form1::~Form1() {
     window_.reset();
+    program_.openMenus.choices = nullptr;
 }
 
 bool Form1::Create() {
@@ -87,6 +90,12 @@ LRESULT Form1::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPar
         // Closed from outside (a task manager, the system): leave the desktop as it was.
         Subroutines::ExitProgram(*this, true);
         return 0;
+    case WM_QUERYENDSESSION:
+        return TRUE;
+    case WM_ENDSESSION:
+        if (wParam)
+            Form_EndSession();
+        return 0;
     case WM_DESTROY:
         ::PostQuitMessage(0);
         return 0;
@@ -131,6 +140,11 @@ void Form1::PopUpSystrayMenu() {
         mPopSetup_Click();
     else if (chosen == kPopExit)
         mPopExit_Click();
+}
+
+// The session ends, whoever ended it: the desktop is put back as the program found it.
+void Form1::Form_EndSession() {
+    Subroutines::ExitProgram(*this, true);
 }
 
 void Form1::mPopSetup_Click() {
@@ -179,6 +193,8 @@ void Form1::EnableTimer1() {
 // Turns a requested hotspot into its menu. Turning a pending mouse event or a hot key
 // into a hotspot comes with the hotspots issue.
 void Form1::Timer1_Timer() {
+    if (program_.HotspotsBusy)
+        return;
     if (std::optional<int> hotspot = Hotspots::TakeRequestedHotspot(program_.RequestedHotspot))
         HotspotOpening::OpenMenuOfHotspot(program_, *hotspot);
 }

@@ -6,6 +6,7 @@
 #include "core/startup_rules.h"
 #include "core/win/program.h"
 #include "core/win/tray_icon.h"
+#include "menus/win/menu_launcher.h"
 #include "win/form_window.h"
 #include "win/handles.h"
 
@@ -44,6 +45,7 @@ private:
     LRESULT HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
     void Form_MouseMove(WPARAM buttons, int x, int y);
+    void Form_EndSession();
     void mPopSetup_Click();
     void mPopExit_Click();
     void Form_Unload();
@@ -78,6 +80,7 @@ private:
     Win::UniqueMenu menuBar_; // holds mPopupSys, the tray icon's popup menu
     Win::UniqueKernelHandle instanceMarker_;
     TrayIcon trayIcon_;
+    MenuLauncher menuLauncher_{*this};
     UINT taskbarCreatedMessage_ = 0;
     StartupRules::CommandLineWords commandLineWords_;
 };

@@ -6,6 +6,7 @@
 #include "core/win/settings_store.h"
 #include "core/win/subroutines.h"
 #include "core/win/system_values.h"
+#include "desktop/win/desktop_windows.h"
 #include "desktop/win/hotspot_opening.h"
 #include "menus/win/startup_menus.h"
 #include "prefs/win/first_run_introduction.h"
@@ -83,8 +84,9 @@ void Form1::CreateProgramFolders() {
         SystemValues::CreateFolder(folder);
 }
 
-// The internal commands issue fills this: it builds the table of internal commands.
-void Form1::BuildInternalCommandTable() {}
+void Form1::BuildInternalCommandTable() {
+    Subroutines::BuildInternalCommandTable(program_);
+}
 
 void Form1::LoadSettings() {
     ProgramValues& values = program_.values;
@@ -143,8 +145,9 @@ void Form1::ApplyDesktopSettings() {
         HideTaskbarAndShowSystray();
 }
 
-// The internal commands issue fills this: it hides the desktop icons and marks them hidden for the exit.
-void Form1::HideDesktopIcons() {}
+void Form1::HideDesktopIcons() {
+    DesktopWindows::SetDesktopIcons(CommandActions::Visibility::Hide, program_.desktopChanges);
+}
 
 // The task list and systray issue fills this: it hides the taskbar, shows the systray copy and marks both.
 void Form1::HideTaskbarAndShowSystray() {}

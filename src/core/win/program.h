@@ -5,6 +5,7 @@
 #include "core/exit_rules.h"
 #include "core/program_values.h"
 #include "core/settings.h"
+#include "desktop/command_table.h"
 #include "menus/menu_records.h"
 #include "menuwindow/win/open_menus.h"
 
@@ -12,6 +13,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 struct Program {
     HINSTANCE instance = nullptr;
@@ -24,4 +26,8 @@ struct Program {
     OpenMenus openMenus; // the cascade list: every open menu window and its record
     // A hotspot that other parts ask to have fired on Timer1's next tick; -1 for none.
     std::int16_t RequestedHotspot = -1;
+    // While set, Timer1 fires no hotspot: a question of the program's is up.
+    bool HotspotsBusy = false;
+    // The internal commands as the menu editor and the hotspots page offer them.
+    std::vector<CommandTable::CommandRow> commandTable;
 };

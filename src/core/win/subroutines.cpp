@@ -3,6 +3,7 @@
 #include "core/exit_rules.h"
 #include "core/message_box.h"
 #include "core/win/form1.h"
+#include "desktop/win/desktop_windows.h"
 #include "win/text_convert.h"
 
 #include <windows.h>
@@ -22,15 +23,6 @@ bool AskExitQuestion(ProgramValues& values) {
     return ExitRules::ExitConfirmed(answer);
 }
 
-// The internal commands issue fills this: it puts the taskbar back under its own parent and in its place.
-void PutBackTaskbar(ExitRules::DesktopChanges&) {}
-
-// The internal commands issue fills this: it shows the taskbar that the program hid.
-void ShowTaskbar(ExitRules::DesktopChanges&) {}
-
-// The internal commands issue fills this: it shows the desktop icons that the program hid.
-void ShowDesktopIcons(ExitRules::DesktopChanges&) {}
-
 // The task list and systray issue fills this: it unloads the systray copy.
 void UnloadSystray() {}
 
@@ -45,13 +37,13 @@ void RunExitStep(Form1& form1, ExitRules::ExitStep step) {
     ExitRules::DesktopChanges& changes = form1.program().desktopChanges;
     switch (step) {
     case ExitRules::ExitStep::PutBackTaskbar:
-        PutBackTaskbar(changes);
+        DesktopWindows::PutBackTaskbar(changes);
         break;
     case ExitRules::ExitStep::ShowTaskbar:
-        ShowTaskbar(changes);
+        DesktopWindows::SetTaskbar(CommandActions::Visibility::Show, changes);
         break;
     case ExitRules::ExitStep::ShowDesktopIcons:
-        ShowDesktopIcons(changes);
+        DesktopWindows::SetDesktopIcons(CommandActions::Visibility::Show, changes);
         break;
     case ExitRules::ExitStep::RemoveTrayIcon:
         form1.Remove_TrayIcon();
@@ -70,6 +62,13 @@ void RunExitStep(Form1& form1, ExitRules::ExitStep step) {
 }
 
 } // namespace
+
+void BuildInternalCommandTable(Program& program) {
+    program.commandTable = CommandTable::BuildCommandTable(program.values.SystemFolder, [](char letter) {
+        wchar_t root[] = {static_cast<wchar_t>(letter), L':', L'\\', L'\0'};
+        return ::GetDriveTypeW(root) == DRIVE_CDROM;
+    });
+}
 
 bool SingleInstance(Form1& form1) {
     ProgramValues& values = form1.program().values;

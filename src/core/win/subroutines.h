@@ -2,6 +2,7 @@
 #pragma once
 
 class Form1;
+struct Program;
 
 namespace Subroutines {
 
@@ -15,5 +16,8 @@ bool SingleInstance(Form1& form1);
 // the desktop, removes the tray icon, closes the menu windows and unloads the forms,
 // which ends the message loop and the process. A No leaves everything running.
 void ExitProgram(Form1& form1, bool quiet);
+
+// Builds the table of internal commands anew; an eject row names a CD-ROM drive as one.
+void BuildInternalCommandTable(Program& program);
 
 } // namespace Subroutines

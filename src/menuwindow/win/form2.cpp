@@ -2,9 +2,26 @@
 #include "menuwindow/win/form2.h"
 
 #include "menuwindow/menu_look.h"
+#include "menuwindow/win/menu_choices.h"
 #include "menuwindow/win/play_sound.h"
 #include "menuwindow/win/ripple_menu.h"
 #include "win/text_convert.h"
+
+#include <windowsx.h>
+
+namespace {
+
+// Posted to a menu window to close the whole cascade once the message that chose an
+// item is over: the windows go with their objects, which must not be in use then.
+constexpr UINT kCloseCascadeMessage = WM_APP + 1;
+constexpr UINT_PTR kSetForegroundTimer = 5;
+constexpr UINT kSetForegroundInterval = 500;
+
+MenuWindow::Point PointOf(LPARAM lParam) {
+    return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
+}
+
+} // namespace
 
 Form2::Form2(const SettingsRec& settings, const MenuTable& menus, std::string programFolder, OpenMenus& openMenus,
              int id)
@@ -81,7 +98,23 @@ MenuWindow::CascadeRec& Form2::Record() {
 }
 
 void Form2::Form_Unload() {
+    if (window_)
+        ::KillTimer(window_.get(), kSetForegroundTimer);
     DestroyIconHandles();
+}
+
+void Form2::CloseCascade() {
+    ::PostMessageW(window_.get(), kCloseCascadeMessage, 0, 0);
+}
+
+void Form2::StartSetForegroundTimer() {
+    ::SetTimer(window_.get(), kSetForegroundTimer, kSetForegroundInterval, nullptr);
+}
+
+void Form2::tmrSetForeground_Timer() {
+    ::KillTimer(window_.get(), kSetForegroundTimer);
+    if (openMenus_.choices)
+        openMenus_.choices->ActivateTaskWindow(window_.get());
 }
 
 void Form2::DestroyIconHandles() {
@@ -95,6 +128,25 @@ LRESULT Form2::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPar
         return 0;
     case WM_PRINTCLIENT:
         Form_PrintClient(reinterpret_cast<HDC>(wParam));
+        return 0;
+    case WM_LBUTTONDOWN:
+        Picture2_MouseDown(MenuWindow::MouseButton::Left, PointOf(lParam));
+        return 0;
+    case WM_RBUTTONDOWN:
+        Picture2_MouseDown(MenuWindow::MouseButton::Right, PointOf(lParam));
+        return 0;
+    case WM_LBUTTONUP:
+        Picture2_MouseUp(MenuWindow::MouseButton::Left, wParam, PointOf(lParam));
+        return 0;
+    case WM_RBUTTONUP:
+        Picture2_MouseUp(MenuWindow::MouseButton::Right, wParam, PointOf(lParam));
+        return 0;
+    case WM_TIMER:
+        if (wParam == kSetForegroundTimer)
+            tmrSetForeground_Timer();
+        return 0;
+    case kCloseCascadeMessage:
+        openMenus_.CloseAll(); // this object is gone afterwards
         return 0;
     case WM_ERASEBKGND:
         return 1; // the picture covers every pixel; erasing first would only flicker

@@ -8,6 +8,7 @@
 #include "menus/menu_records.h"
 #include "menuwindow/animation.h"
 #include "menuwindow/cascade.h"
+#include "menuwindow/choosing.h"
 #include "menuwindow/menu_look.h"
 #include "menuwindow/menu_scene.h"
 #include "menuwindow/repaint.h"
@@ -86,6 +87,12 @@ private:
     LRESULT HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
     void Picture2_Paint();
+    void Picture2_MouseDown(MenuWindow::MouseButton button, MenuWindow::Point point);
+    void Picture2_MouseUp(MenuWindow::MouseButton button, WPARAM keys, MenuWindow::Point point);
+    void Choose(int item, bool ctrlHeld);
+    void CloseCascade();
+    void StartSetForegroundTimer();
+    void tmrSetForeground_Timer();
     void Form_PrintClient(HDC dc);
     void Form_Unload();
     void PlayOpenMenuSound();
@@ -112,6 +119,7 @@ private:
     MenuWindow::BackBuffer picture_;
     MenuWindow::SelectionState selection_;
     std::vector<MenuWindow::ButtonState> drawn_; // the state each item was last painted in, by item
+    MenuWindow::MouseButton lastButton_ = MenuWindow::MouseButton::Left;
     bool inactive_ = false;
     bool rolledUp_ = false;
     int buttonsDrawn_ = 0;

@@ -8,6 +8,7 @@
 #include <memory>
 
 class Form2;
+class MenuChoices;
 
 class OpenMenus {
 public:
@@ -36,6 +37,8 @@ public:
 
     // ForceOnTop of the hotspot that opened the latest menu: its window is kept topmost.
     bool forceOnTop = false;
+    // Where every menu window hands what the user chooses; null chooses nothing.
+    MenuChoices* choices = nullptr;
 
 private:
     MenuWindow::CascadeList records_;

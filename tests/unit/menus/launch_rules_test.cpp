@@ -67,3 +67,16 @@ TEST(LaunchRules, CommandValuesNameAnInternalCodeOrACommandLine) {
          })
         EXPECT_EQ(ParseCommandValue(c.value), c.parsed) << c.value;
 }
+
+TEST(LaunchRules, OnlyPathsTheShellCanTakeAreHandedToIt) {
+    EXPECT_TRUE(PathFitsTheShell(std::string(259, 'a')));
+    EXPECT_FALSE(PathFitsTheShell(std::string(260, 'a')));
+    EXPECT_FALSE(PathFitsTheShell(std::string(10000, 'a')));
+    std::string omega = "\xCE\xA9"; // two bytes, one character
+    std::string wide;
+    for (int i = 0; i < 259; ++i)
+        wide += omega;
+    EXPECT_TRUE(PathFitsTheShell(wide)) << "characters count, not bytes";
+    EXPECT_TRUE(PathFitsTheShell("https://example.org/" + std::string(2000, 'q')));
+    EXPECT_FALSE(PathFitsTheShell("https://example.org/" + std::string(2100, 'q')));
+}

@@ -27,3 +27,14 @@ TEST(ScrollTo, KeepsTheOffsetWithinRange) {
     ScrollTo(scene, -3);
     EXPECT_EQ(scene.view().first, 0);
 }
+
+TEST(HitInWindow, FindsTheItemUnderAWindowPointBelowTheTitle) {
+    MenuScene scene = Scene(PlainLook(), Items({"A", "B", "C"}), "T");
+    int width = scene.layout.window.width;
+    EXPECT_EQ(HitInWindow(scene, {5, 10}).kind, Hit::Kind::None) << "the title bar";
+    EXPECT_EQ(HitInWindow(scene, {5, 24}), (Hit{Hit::Kind::Item, 1}));
+    EXPECT_EQ(HitInWindow(scene, {width - 1, 24 + 20 + 19}), (Hit{Hit::Kind::Item, 2}));
+    EXPECT_EQ(HitInWindow(scene, {5, 24 + 40}), (Hit{Hit::Kind::Item, 3}));
+    EXPECT_EQ(HitInWindow(scene, {width, 30}).kind, Hit::Kind::None) << "right of the surface";
+    EXPECT_EQ(HitInWindow(scene, {5, 24 + 60}).kind, Hit::Kind::None) << "below the last item";
+}

@@ -1,0 +1,88 @@
+// The launcher against the real shell: programs started with their arguments, start
+// folder and window state, and the box of a start that fails.
+#include "core/win/form1.h"
+#include "menus/win/launcher.h"
+#include "support/answered_message_boxes.h"
+#include "support/temp_folder.h"
+#include "win/text_convert.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <thread>
+
+namespace {
+
+using TestSupport::AnsweredMessageBoxes;
+using TestSupport::FileExists;
+
+std::string SystemFile(const char* name) {
+    wchar_t folder[MAX_PATH];
+    ::GetSystemDirectoryW(folder, MAX_PATH);
+    return Win::Narrow(folder) + "\\" + name;
+}
+
+bool WaitForFile(const std::string& path) {
+    for (int i = 0; i < 500 && !FileExists(path); ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    return FileExists(path);
+}
+
+class LauncherTest : public ::testing::Test {
+protected:
+    Program program;
+    TestSupport::TempFolder folder;
+};
+
+} // namespace
+
+TEST_F(LauncherTest, AProgramStartsWithItsArgumentsInItsStartFolderEvenWithUnicodeNames) {
+    std::string start = folder.File("Start \xC3\x9C\xCE\xA9"); // "Start ÜΩ"
+    ASSERT_TRUE(::CreateDirectoryW(Win::Widen(start).c_str(), nullptr));
+    AnsweredMessageBoxes boxes(MessageBoxes::kOk);
+    Launcher::RunProgram(program, "Where", start, SystemFile("cmd.exe"), "/c cd > started.txt", 0);
+    EXPECT_TRUE(WaitForFile(start + "\\started.txt"));
+    EXPECT_TRUE(boxes.requests.empty());
+}
+
+TEST_F(LauncherTest, AStartThatFailsTwiceSaysWhyInABoxNamedAfterTheItem) {
+    AnsweredMessageBoxes boxes(MessageBoxes::kOk);
+    Launcher::RunProgram(program, "Lost Tool", "", folder.File("missing.exe"), "", 0);
+    ASSERT_EQ(boxes.requests.size(), 1u);
+    EXPECT_EQ(boxes.requests[0].title, "Tarvex - Error running Lost Tool");
+    EXPECT_EQ(boxes.requests[0].text, "File not found.");
+    EXPECT_EQ(boxes.requests[0].style, MessageBoxes::kExclamation);
+}
+
+TEST_F(LauncherTest, HugeOrEmptyPathsAndArgumentsEndInABoxOrAStartNeverACrash) {
+    AnsweredMessageBoxes boxes(MessageBoxes::kOk);
+    Launcher::RunProgram(program, "Long", "", std::string(10000, 'a') + ".exe", "", 0);
+    Launcher::RunProgram(program, "Empty", "", "", "", 0);
+    ASSERT_EQ(boxes.requests.size(), 2u);
+    EXPECT_EQ(boxes.requests[0].title, "Tarvex - Error running Long");
+    EXPECT_EQ(boxes.requests[0].text, "File not found.");
+    EXPECT_EQ(boxes.requests[1].title, "Tarvex - Error running Empty");
+    std::string marker = folder.File("long-arguments.txt");
+    Launcher::RunProgram(program, "Args", folder.path(), SystemFile("cmd.exe"),
+                         "/c echo " + std::string(7000, 'x') + " > long-arguments.txt", 0);
+    EXPECT_TRUE(WaitForFile(marker));
+}
+
+TEST_F(LauncherTest, ACommandLineStartsAndACodeRunsItsInternalCommand) {
+    Form1 form1(program);
+    ASSERT_TRUE(form1.Create());
+    AnsweredMessageBoxes boxes(MessageBoxes::kOk);
+    std::string marker = folder.File("command.txt");
+    EXPECT_EQ(Launcher::RunCommand(form1, "\"" + SystemFile("cmd.exe") + "\" /c echo run > \"" + marker + "\""), -1);
+    EXPECT_TRUE(WaitForFile(marker));
+    EXPECT_TRUE(boxes.requests.empty());
+    for (const char* unknown : {"*3", "*99999", "*43"}) {
+        boxes.requests.clear();
+        Launcher::RunCommand(form1, unknown);
+        ASSERT_EQ(boxes.requests.size(), 1u) << unknown;
+        EXPECT_EQ(boxes.requests[0].text, "Sorry, this Internal Command is not yet implemented...") << unknown;
+    }
+    boxes.requests.clear();
+    EXPECT_EQ(Launcher::RunCommand(form1, "*14"), 14) << "the preferences";
+    EXPECT_EQ(boxes.requests.size(), 1u);
+}
