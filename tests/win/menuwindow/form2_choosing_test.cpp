@@ -1,0 +1,100 @@
+// Choosing in a menu window: presses and releases on its items, as the window receives
+// them, handed to a launcher that only records.
+#include "menu_window_fixture.h"
+
+#include "menuwindow/menu_scene.h"
+#include "menuwindow/win/menu_choices.h"
+
+using namespace MenuWindowTests;
+
+namespace {
+
+class RecordingChoices : public MenuChoices {
+public:
+    bool ActivateTaskWindow(HWND) override {
+        calls.push_back("activate");
+        return true;
+    }
+    std::int16_t RunCommand(const std::string& value) override {
+        calls.push_back("command " + value);
+        return commandResult;
+    }
+    void RunProgram(const DisplayEntry& entry) override { calls.push_back("program " + entry.PATH); }
+    void ShowProperties(const std::string& path) override { calls.push_back("properties " + path); }
+
+    std::vector<std::string> calls;
+    std::int16_t commandResult = -1;
+};
+
+class Form2Choosing : public MenuWindowTest {
+protected:
+    void SetUp() override {
+        openMenus.choices = &choices;
+        int menu = AddMenu("Programs", {"Editor", "Exit", "Tools"});
+        ItemOf(menu, 0).PATH = "notepad.exe";
+        ItemOf(menu, 1).TYPE = kItemCommandName;
+        ItemOf(menu, 1).PATH = "*9";
+        ItemOf(menu, 2).TYPE = kItemMenuName;
+        ItemOf(menu, 2).PATH = "Tools";
+        form = Open(MenuRecord(menu));
+        ASSERT_TRUE(form);
+        hwnd = form->hwnd();
+    }
+
+    // The middle of an item's button, in the window's client coordinates.
+    LPARAM PointOf(int item) const {
+        MenuWindow::Rect button = MenuWindow::ItemInWindow(form->scene(), item);
+        return MAKELPARAM((button.left + button.right) / 2, (button.top + button.bottom) / 2);
+    }
+
+    void Click(int pressItem, LPARAM release, WPARAM keys = 0, UINT down = WM_LBUTTONDOWN, UINT up = WM_LBUTTONUP) {
+        ::SendMessageW(hwnd, down, MK_LBUTTON | keys, PointOf(pressItem));
+        ::SendMessageW(hwnd, up, keys, release);
+        MSG msg;
+        while (::PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE))
+            ::DispatchMessageW(&msg);
+    }
+
+    RecordingChoices choices;
+    Form2* form = nullptr;
+    HWND hwnd = nullptr;
+};
+
+} // namespace
+
+TEST_F(Form2Choosing, AClickOnAProgramStartsItAndClosesTheMenus) {
+    Click(1, PointOf(1));
+    EXPECT_EQ(choices.calls, std::vector<std::string>{"program notepad.exe"});
+    EXPECT_EQ(openMenus.Count(), 0);
+    EXPECT_FALSE(::IsWindow(hwnd));
+}
+
+TEST_F(Form2Choosing, AReleaseOnAnotherItemOrOutsideChoosesNothing) {
+    Click(1, PointOf(2));
+    Click(1, MAKELPARAM(5, form->scene().layout.window.height + 40));
+    Click(1, MAKELPARAM(5, 5)); // the title bar
+    EXPECT_TRUE(choices.calls.empty());
+    EXPECT_EQ(form->selection(), MenuWindow::SelectionState{}) << "nothing left pressed or selected";
+    EXPECT_EQ(openMenus.Count(), 1);
+}
+
+TEST_F(Form2Choosing, CtrlKeepsTheMenusOpenAndSoDoTheExitAndThePreferences) {
+    Click(1, PointOf(1), MK_CONTROL);
+    EXPECT_EQ(openMenus.Count(), 1);
+    for (std::int16_t result : {9, 14}) {
+        choices.commandResult = result;
+        Click(2, PointOf(2));
+        EXPECT_EQ(openMenus.Count(), 1) << result;
+    }
+    EXPECT_EQ(choices.calls, (std::vector<std::string>{"program notepad.exe", "command *9", "command *9"}));
+    choices.commandResult = 27;
+    Click(2, PointOf(2));
+    EXPECT_EQ(openMenus.Count(), 0);
+}
+
+TEST_F(Form2Choosing, TheRightButtonShowsAFilesPropertiesAndSubMenuItemsChooseNothing) {
+    Click(1, PointOf(1), 0, WM_RBUTTONDOWN, WM_RBUTTONUP);
+    Click(3, PointOf(3));
+    EXPECT_EQ(choices.calls, std::vector<std::string>{"properties notepad.exe"});
+    EXPECT_EQ(openMenus.Count(), 1);
+}
