@@ -92,6 +92,10 @@ bool OpensSubMenu(std::uint8_t type) {
     return type == kItemFolderPath || type == kItemMenuName || type == kItemTaskList;
 }
 
+bool HasHotkey(std::string_view hotkey) {
+    return !hotkey.empty() && hotkey != "0";
+}
+
 std::string HotkeyLabel(std::string_view hotkey) {
     return Text::ToUpper(hotkey);
 }
@@ -103,7 +107,7 @@ std::vector<ItemMeasure> MeasureItems(const DisplayList& list, const TextMeasure
         ItemMeasure item;
         item.textWidth = measure.Width(FontRole::Button, entry.LABEL);
         item.hasArrow = OpensSubMenu(entry.TYPE);
-        item.hasHotkey = !entry.HOTKEY.empty();
+        item.hasHotkey = HasHotkey(entry.HOTKEY);
         if (item.hasHotkey)
             item.hotkeyTextWidth = measure.Width(FontRole::Button, HotkeyLabel(entry.HOTKEY));
         measures.push_back(item);

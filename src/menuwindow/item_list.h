@@ -39,6 +39,10 @@ DisplayList FolderList(FolderListing listing);
 // Items that open a sub-menu: folders, menus and the task list.
 bool OpensSubMenu(std::uint8_t type);
 
+// Whether an item has a hot key: the menu file writes "0" for none, and an empty value
+// is none too. The key "0" can therefore never be a hot key.
+bool HasHotkey(std::string_view hotkey);
+
 // The key shown after the command-key symbol: the item's HOTKEY, upper-cased.
 std::string HotkeyLabel(std::string_view hotkey);
 

@@ -79,10 +79,16 @@ TEST(MeasureItems, TextWidthsArrowsAndHotKeys) {
     DisplayList list = MenuItemsList(TwoMenus(), 2);
     list.entries.push_back(Entry(kItemFilename, "a.exe"));
     list.entries.back().LABEL = "Run";
+    list.entries.push_back(list.entries.back());
+    list.entries.back().HOTKEY = "0"; // what the menu file writes for none
     std::vector<ItemMeasure> measures = MeasureItems(list, FakeMeasure{});
-    ASSERT_EQ(measures.size(), 2u);
+    ASSERT_EQ(measures.size(), 3u);
     EXPECT_EQ(measures[0], (ItemMeasure{4 * kButtonCharWidth, true, true, kButtonCharWidth}));
     EXPECT_EQ(measures[1], (ItemMeasure{3 * kButtonCharWidth, false, false, 0}));
+    EXPECT_EQ(measures[2], measures[1]) << "\"0\" is no hot key";
+    EXPECT_FALSE(HasHotkey("0"));
+    EXPECT_FALSE(HasHotkey(""));
+    EXPECT_TRUE(HasHotkey("Q"));
     EXPECT_EQ(HotkeyLabel("q"), "Q") << "the key is shown upper-cased";
     EXPECT_EQ(HotkeyLabel("F5"), "F5");
 }

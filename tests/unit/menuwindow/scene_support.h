@@ -28,6 +28,7 @@ inline DisplayList Items(const std::vector<std::string>& labels) {
     for (const std::string& label : labels) {
         DisplayEntry entry;
         entry.LABEL = label;
+        entry.HOTKEY = "0"; // as a menu file holds an item without a hot key
         list.entries.push_back(entry);
     }
     return list;
