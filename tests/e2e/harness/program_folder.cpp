@@ -65,6 +65,10 @@ void ProgramFolder::WriteSettings(std::string_view lines) const {
     WriteBytes("Helmora.ini", Utf16LeWithMark(WithCrLf(lines)));
 }
 
+void ProgramFolder::WriteMenus(std::string_view lines) const {
+    WriteBytes("TvMenus.ini", Utf16LeWithMark(WithCrLf(lines)));
+}
+
 std::string TestProgramFolder() {
     std::vector<wchar_t> buffer(MAX_PATH);
     for (;;) {

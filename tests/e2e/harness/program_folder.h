@@ -37,6 +37,8 @@ public:
     // Writes Helmora.ini as the program writes its files: UTF-16LE with a byte-order
     // mark. The lines are UTF-8, joined with CR LF.
     void WriteSettings(std::string_view lines) const;
+    // Writes TvMenus.ini the same way.
+    void WriteMenus(std::string_view lines) const;
 
 private:
     bool ready_ = false;

@@ -2,6 +2,7 @@
 // program folder, a start-up menu painted with its pictures. The screenshot is saved as
 // "menuwindow-aurora.bmp" for a person to look at.
 #include "harness/failure_screenshots.h"
+#include "harness/menu_files.h"
 #include "harness/menu_window.h"
 #include "harness/program_folder.h"
 #include "harness/screen.h"
@@ -96,13 +97,11 @@ TEST(AuroraTheme, TheShippedThemePaintsAStartUpMenuWithItsPictures) {
     settings += "HotSpot0Type=1\nHotSpot0Menupath1=Programs\n";
     settings += keys;
     folder.WriteSettings(settings);
-    std::string menus = "[MENUS]\r\nNAME-1=Programs\r\nNAME-2=Tools\r\n\r\n[MENU-1]\r\n";
-    menus += "LABEL-0=Text Editor\r\nTYPE-0=0\r\nPATH-0=notepad.exe\r\nHOTKEY-0=E\r\n";
-    menus += "LABEL-1=Tools\r\nTYPE-1=3\r\nPATH-1=Tools\r\n";
-    menus += "LABEL-2=Calculator\r\nTYPE-2=0\r\nPATH-2=calc.exe\r\n";
-    menus += "LABEL-3=Command Prompt\r\nTYPE-3=0\r\nPATH-3=cmd.exe\r\n";
-    menus += "\r\n[MENU-2]\r\nLABEL-0=Paint\r\nTYPE-0=0\r\nPATH-0=mspaint.exe\r\n";
-    folder.WriteBytes("TvMenus.ini", menus);
+    TestItem editor = Item("Text Editor", 0, "notepad.exe");
+    editor.hotkey = "E";
+    std::vector<TestItem> programs{editor, Item("Tools", 3, "Tools"), Item("Calculator", 0, "calc.exe"),
+                                   Item("Command Prompt", 0, "cmd.exe")};
+    folder.WriteMenus(MenuFileText({{"Programs", programs}, {"Tools", {Item("Paint", 0, "mspaint.exe")}}}));
 
     Tarvex tarvex;
     ASSERT_TRUE(tarvex.Start(folder));

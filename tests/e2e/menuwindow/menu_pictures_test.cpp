@@ -4,6 +4,7 @@
 // folder, named by a relative BitmapsFolder; the menu stands at Menuleft/Menutop, so
 // each check reads the screen where a known pixel of a picture must be shown.
 #include "harness/failure_screenshots.h"
+#include "harness/menu_files.h"
 #include "harness/menu_window.h"
 #include "harness/program_folder.h"
 #include "harness/screen.h"
@@ -72,18 +73,20 @@ std::string Settings(const std::string& look) {
 }
 
 // "Programs": a submenu entry (with an arrow), an entry with a command key, a plain one.
-const char* const kMenus = "[MENUS]\r\nNAME-1=Programs\r\nNAME-2=Tools\r\n\r\n[MENU-1]\r\n"
-                           "LABEL-0=Tools\r\nTYPE-0=3\r\nPATH-0=Tools\r\n"
-                           "LABEL-1=Text Editor\r\nTYPE-1=0\r\nPATH-1=notepad.exe\r\nHOTKEY-1=E\r\n"
-                           "LABEL-2=Calculator\r\nTYPE-2=0\r\nPATH-2=calc.exe\r\n"
-                           "\r\n[MENU-2]\r\nLABEL-0=Paint\r\nTYPE-0=0\r\nPATH-0=mspaint.exe\r\n";
+std::string Menus() {
+    TestItem tools = Item("Tools", 3, "Tools");
+    TestItem editor = Item("Text Editor", 0, "notepad.exe");
+    editor.hotkey = "E";
+    TestItem calculator = Item("Calculator", 0, "calc.exe");
+    return MenuFileText({{"Programs", {tools, editor, calculator}}, {"Tools", {Item("Paint", 0, "mspaint.exe")}}});
+}
 
 // A part of the menu in window coordinates, the right and bottom edges excluded.
 struct Part {
     int left, top, right, bottom;
 };
 
-Part Item(const RECT& window, int item) {
+Part ItemPart(const RECT& window, int item) {
     int top = kTitleHeight + (item - 1) * kButtonHeight;
     return {0, top, window.right - window.left, top + kButtonHeight};
 }
@@ -105,7 +108,7 @@ protected:
     // Starts the program and waits for its menu; saves "menuwindow-<name>.bmp".
     std::optional<WindowInfo> Start(const std::string& look, const std::string& screenshot) {
         folder_.WriteSettings(Settings(look));
-        folder_.WriteBytes("TvMenus.ini", kMenus);
+        folder_.WriteMenus(Menus());
         if (!tarvex_.Start(folder_))
             return std::nullopt;
         std::optional<WindowInfo> menu = WaitForMenuWindow(tarvex_.processId());
@@ -161,15 +164,15 @@ TEST_F(MenuPictures, StretchedTitleAndButtonBitmapsWithPictureArrowAndCommandKey
     EXPECT_EQ(At(r, width - quarter, 2), kGreen);
     EXPECT_EQ(At(r, quarter, kTitleHeight - 3), kBlue);
     EXPECT_EQ(At(r, width - quarter, kTitleHeight - 3), kYellow);
-    Part plain = Item(r, 3);
+    Part plain = ItemPart(r, 3);
     EXPECT_EQ(At(r, plain.left + 1, plain.top + 2), kYellow);
     EXPECT_EQ(At(r, plain.right - 3, plain.top + 2), kBlue);
     EXPECT_EQ(At(r, plain.left + 1, plain.bottom - 3), kGreen);
     EXPECT_EQ(At(r, plain.right - 3, plain.bottom - 3), kRed);
-    EXPECT_GT(CountOf(r, Item(r, 1), kArrowColour), 100) << "the arrow icon";
-    EXPECT_EQ(CountOf(r, Item(r, 2), kArrowColour), 0);
-    EXPECT_GT(CountOf(r, Item(r, 2), kKeyColour), 100) << "the command-key icon";
-    EXPECT_EQ(CountOf(r, Item(r, 3), kKeyColour), 0);
+    EXPECT_GT(CountOf(r, ItemPart(r, 1), kArrowColour), 100) << "the arrow icon";
+    EXPECT_EQ(CountOf(r, ItemPart(r, 2), kArrowColour), 0);
+    EXPECT_GT(CountOf(r, ItemPart(r, 2), kKeyColour), 100) << "the command-key icon";
+    EXPECT_EQ(CountOf(r, ItemPart(r, 3), kKeyColour), 0);
 }
 
 TEST_F(MenuPictures, TiledTitleAndButtonBitmapsRepeatFromTheCornerOfEachPart) {
@@ -185,7 +188,7 @@ TEST_F(MenuPictures, TiledTitleAndButtonBitmapsRepeatFromTheCornerOfEachPart) {
     EXPECT_EQ(MismatchesOfTiles(r, title, 1), 0);
     EXPECT_EQ(MismatchesOfTiles(r, title, kTitleHeight - 2), 0);
     for (int item : {2, 3}) {
-        Part button = Item(r, item);
+        Part button = ItemPart(r, item);
         EXPECT_EQ(MismatchesOfTiles(r, button, button.top + 1), 0) << "item " << item;
         EXPECT_EQ(MismatchesOfTiles(r, button, button.bottom - 1), 0) << "item " << item;
     }

@@ -2,6 +2,7 @@
 // Folder opens its menu window, placed and painted as the settings say. Each test saves
 // a screenshot of the look it checks in the screenshot folder.
 #include "harness/failure_screenshots.h"
+#include "harness/menu_files.h"
 #include "harness/menu_window.h"
 #include "harness/program_folder.h"
 #include "harness/screen.h"
@@ -19,12 +20,13 @@ namespace {
 
 using namespace E2e;
 
-constexpr COLORREF kTitleColour = 0x00803010; // 0x00BBGGRR
+// The plain look's colours, 0x00BBGGRR.
+constexpr COLORREF kTitleColour = 0x00803010;
 constexpr COLORREF kTitleTextColour = 0x0000E0FF;
 constexpr COLORREF kButtonColour = 0x00F0E8E0;
 constexpr COLORREF kButtonTextColour = 0x00302010;
-constexpr int kTitleHeight = 26;
-constexpr int kButtonHeight = 22;
+constexpr int kTitleHeight = kPlainTitleHeight;
+constexpr int kButtonHeight = kPlainButtonHeight;
 constexpr int kMenuLeft = 240;
 constexpr int kMenuTop = 130;
 
@@ -32,39 +34,14 @@ std::string Number(long long value) {
     return std::to_string(value);
 }
 
-// The settings of one start-up hotspot (index 0) and a plain look: solid colours, flat
-// parts, no frame. extra holds further lines, which come first and so win over these: a
-// key takes the value of its first line.
+// The start-up hotspot's settings in the plain look; hotspot and extra lines come first
+// and so win over the plain ones.
 std::string Settings(const std::string& hotspot, const std::string& extra) {
-    std::string text = "[TARVEX]\n" + extra;
-    text += "GenShowInTray=False\n";
-    text += "NoOfHotSpots=0\n";
-    text += "GenStartupHotspot0=0\n";
-    text += "HotSpot0x1=48\nHotSpot0x2=1024\nHotSpot0y1=0\nHotSpot0y2=768\n";
-    text += "HotSpot0App=Desktop\nHotSpot0GroupName=Default\n";
-    text += "HotSpot0Menuleft=" + Number(kMenuLeft) + "\nHotSpot0Menutop=" + Number(kMenuTop) + "\n";
-    text += hotspot;
-    text += "TitleColor=" + Number(kTitleColour) + "\nTitleFontColor=" + Number(kTitleTextColour) + "\n";
-    text += "TitleGradient=False\nTitleFlat=True\nTitleOverlap=False\nTitleVSize=" + Number(kTitleHeight) + "\n";
-    text += "ButtonColor=" + Number(kButtonColour) + "\nButtonFontColor=" + Number(kButtonTextColour) + "\n";
-    text += "ButtonGradient=False\nButtonFlat=1\nButtonVSize=" + Number(kButtonHeight) + "\n";
-    text += "MenuNoFrames=1\nTwinScrollButtons=False\n";
-    return text;
+    return StartupMenuSettings("Programs", kMenuLeft, kMenuTop, extra + hotspot);
 }
 
-std::string ShowMenu(const std::string& name) {
-    return "HotSpot0Type=1\nHotSpot0Menupath1=" + name + "\n";
-}
-
-// A menu file with one menu of the labels.
-std::string MenuFile(const std::string& name, const std::vector<std::string>& labels) {
-    std::string text = "[MENUS]\r\nNAME-1=" + name + "\r\n\r\n[MENU-1]\r\n";
-    for (std::size_t i = 0; i < labels.size(); ++i) {
-        text += "LABEL-" + Number(static_cast<long long>(i)) + "=" + labels[i] + "\r\n";
-        text += "TYPE-" + Number(static_cast<long long>(i)) + "=0\r\n";
-        text += "PATH-" + Number(static_cast<long long>(i)) + "=notepad.exe\r\n";
-    }
-    return text;
+std::string MenuFile(const std::vector<std::string>& labels) {
+    return MenuFileText({{"Programs", NotepadItems(labels)}});
 }
 
 const std::vector<std::string> kLabels = {"Text Editor", "Calculator", "Paint", "Mail", "Web Browser"};
@@ -76,7 +53,7 @@ protected:
         if (!folder_.ready())
             return std::nullopt;
         folder_.WriteSettings(settings);
-        folder_.WriteBytes("TvMenus.ini", menuFile);
+        folder_.WriteMenus(menuFile);
         if (!tarvex_.Start(folder_))
             return std::nullopt;
         return WaitForMenuWindow(tarvex_.processId());
@@ -117,7 +94,7 @@ int CountOf(const RECT& window, RECT part, COLORREF colour) {
 } // namespace
 
 TEST_F(StartupMenu, AShowMenuHotspotOpensItsMenuAtItsPlaceInItsColours) {
-    std::optional<WindowInfo> menu = Start(Settings(ShowMenu("Programs"), ""), MenuFile("Programs", kLabels));
+    std::optional<WindowInfo> menu = Start(Settings("", ""), MenuFile(kLabels));
     ASSERT_TRUE(menu) << "no menu window opened at start";
     Screenshot("title-top");
     const RECT& r = menu->rect;
@@ -143,8 +120,8 @@ TEST_F(StartupMenu, AGradientTitlesFirstAndLastBandsHaveTheComputedColours) {
     constexpr COLORREF kTo = 0x00FFC060;
     std::string look = "TitleColor=" + Number(kFrom) + "\nTitleGradient=True\nTitleColor2=" + Number(kTo) +
                        "\nTitleGradientType=0\nTitleAlignment=1\n";
-    std::string settings = Settings(ShowMenu("Programs"), look);
-    std::optional<WindowInfo> menu = Start(settings, MenuFile("Programs", kLabels));
+    std::string settings = Settings("", look);
+    std::optional<WindowInfo> menu = Start(settings, MenuFile(kLabels));
     ASSERT_TRUE(menu);
     Screenshot("title-gradient");
     const RECT& r = menu->rect;
@@ -159,7 +136,7 @@ TEST_F(StartupMenu, AGradientTitlesFirstAndLastBandsHaveTheComputedColours) {
 
 TEST_F(StartupMenu, TheTitleAtTheBottom) {
     std::optional<WindowInfo> menu =
-        Start(Settings(ShowMenu("Programs"), "TitlePosition=1\n"), MenuFile("Programs", kLabels));
+        Start(Settings("", "TitlePosition=1\n"), MenuFile(kLabels));
     ASSERT_TRUE(menu);
     Screenshot("title-bottom");
     const RECT& r = menu->rect;
@@ -172,7 +149,7 @@ TEST_F(StartupMenu, TheTitleAtTheBottom) {
 
 TEST_F(StartupMenu, TheTitleAtTheLeftReadsUpwards) {
     std::optional<WindowInfo> menu =
-        Start(Settings(ShowMenu("Programs"), "TitlePosition=2\n"), MenuFile("Programs", kLabels));
+        Start(Settings("", "TitlePosition=2\n"), MenuFile(kLabels));
     ASSERT_TRUE(menu);
     Screenshot("title-left");
     const RECT& r = menu->rect;
@@ -195,9 +172,9 @@ TEST_F(StartupMenu, TheTitleAtTheLeftReadsUpwards) {
 }
 
 TEST_F(StartupMenu, AHorizontalMenuStandsItsButtonsInARow) {
-    std::string hotspot = ShowMenu("Programs") + "HotSpot0Horizontal=True\n";
+    std::string hotspot = "HotSpot0Horizontal=True\n";
     std::optional<WindowInfo> menu =
-        Start(Settings(hotspot, "HorzNoTitlebar=False\nMenuHorizontalStyle=1\n"), MenuFile("Programs", kLabels));
+        Start(Settings(hotspot, "HorzNoTitlebar=False\nMenuHorizontalStyle=1\n"), MenuFile(kLabels));
     ASSERT_TRUE(menu);
     Screenshot("horizontal");
     const RECT& r = menu->rect;
@@ -213,7 +190,7 @@ TEST_F(StartupMenu, AMenuLongerThanTheScreenEndsInAScrollButton) {
     std::vector<std::string> labels;
     for (int i = 1; i <= 60; ++i)
         labels.push_back("Program " + Number(i));
-    std::optional<WindowInfo> menu = Start(Settings(ShowMenu("Programs"), ""), MenuFile("Programs", labels));
+    std::optional<WindowInfo> menu = Start(Settings("", ""), MenuFile(labels));
     ASSERT_TRUE(menu);
     Screenshot("scroll");
     const RECT& r = menu->rect;
@@ -240,7 +217,7 @@ TEST_F(StartupMenu, AFolderHotspotListsAnEmptyFolderAsEmpty) {
     std::string empty = folder_.File("Nothing Here");
     ASSERT_TRUE(::CreateDirectoryW(Win::Widen(empty).c_str(), nullptr));
     std::string hotspot = "HotSpot0Type=0\nHotSpot0Menupath1=" + empty + "\n";
-    std::optional<WindowInfo> menu = Start(Settings(hotspot, ""), MenuFile("Programs", kLabels));
+    std::optional<WindowInfo> menu = Start(Settings(hotspot, ""), MenuFile(kLabels));
     ASSERT_TRUE(menu);
     Screenshot("folder-empty");
     const RECT& r = menu->rect;
@@ -257,7 +234,7 @@ TEST_F(StartupMenu, AFolderHotspotListsTheFolder) {
     folder_.WriteBytes("Tools\\notes.txt", "x");
     folder_.WriteBytes("Tools\\setup.exe", "x");
     std::string hotspot = "HotSpot0Type=0\nHotSpot0Menupath1=" + tools + "\n";
-    std::optional<WindowInfo> menu = Start(Settings(hotspot, ""), MenuFile("Programs", kLabels));
+    std::optional<WindowInfo> menu = Start(Settings(hotspot, ""), MenuFile(kLabels));
     ASSERT_TRUE(menu);
     Screenshot("folder");
     const RECT& r = menu->rect;
