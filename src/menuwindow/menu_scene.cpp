@@ -26,12 +26,13 @@ MenuScene BuildScene(SceneRequest request, const TextMeasure& measure) {
     if (!scene.title.empty())
         scene.options.titleWidth =
             measure.Width(FontRole::Title, scene.title) + 2 * scene.options.metrics.titleTextPadding;
-    // The title-bar buttons stand beside the text, so the bar is made long enough for both.
+    // The title-bar buttons stand beside the text, so the bar is made long enough for both:
+    // by as much as they take from the text's room on a bar of any length.
     const MenuMetrics& metrics = scene.options.metrics;
-    std::size_t buttons = PlaceTitleButtons(scene.look, scene.inactive, {0, 0, 1 << 16, metrics.titleThickness}, false,
-                                            metrics.titleButtonSize, metrics.titleButtonGap)
-                              .size();
-    scene.options.titleWidth += static_cast<int>(buttons) * (metrics.titleButtonSize + metrics.titleButtonGap);
+    Rect longBar{0, 0, 1 << 16, metrics.titleThickness};
+    std::vector<PlacedTitleButton> buttons = PlaceTitleButtons(scene.look, scene.inactive, longBar, false,
+                                                               metrics.titleButtonSize, metrics.titleButtonGap);
+    scene.options.titleWidth += longBar.Width() - TitleTextRect(longBar, false, buttons, 0).Width();
     int available = scene.horizontal ? request.workArea.Width() : request.workArea.Height();
     scene.layout = LayOutMenu(scene.measures, scene.options, available, request.first);
     return scene;

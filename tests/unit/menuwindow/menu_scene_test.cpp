@@ -1,5 +1,8 @@
 #include "menuwindow/menu_scene.h"
 
+#include "menuwindow/paint_title_buttons.h"
+#include "menuwindow/title_buttons.h"
+
 #include "print_helpers.h"
 #include "scene_support.h"
 
@@ -15,6 +18,18 @@ TEST(BuildScene, AMenuIsWideEnoughForItsTitleWithinTheMaximumUnlessTheTitleIsAtT
     EXPECT_EQ(Scene(look, Items({"A"}), "Programs").layout.window.width, 50);
     look.TitlePosition = 2;
     EXPECT_EQ(Scene(look, Items({"A"}), "Programs").layout.window.width, 24 + kSmallestMenuWidth);
+}
+
+TEST(BuildScene, TheTitleBarButtonsLeaveTheWholeTitleRoom) {
+    MenuLook look = PlainLook();
+    look.CloseStatus = kStatusActive;
+    look.ClosePosition = 0;
+    look.RollUpStatus = kStatusActive;
+    look.RollUpPosition = -1;
+    look.TitleVSize = 26; // the buttons stand further from the ends than from each other
+    MenuScene scene = Scene(look, Items({"A"}), "Programs");
+    Rect room = TitleTextRect(scene.layout.title, false, PlacedTitleButtons(scene), kTitleTextPadding);
+    EXPECT_EQ(room.Width(), 8 * kTitleCharWidth) << "no \"...\" for a title the menu was widened for";
 }
 
 TEST(ScrollTo, KeepsTheOffsetWithinRange) {
