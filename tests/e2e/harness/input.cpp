@@ -62,6 +62,28 @@ bool ClickWindow(HWND hwnd) {
     return Click((rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2);
 }
 
+namespace {
+
+void SendKey(WORD virtualKey, bool up) {
+    INPUT key{};
+    key.type = INPUT_KEYBOARD;
+    key.ki.wVk = virtualKey;
+    key.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
+    ::SendInput(1, &key, sizeof key);
+}
+
+} // namespace
+
+HeldKey::HeldKey(WORD virtualKey) : key_(virtualKey) {
+    SendKey(key_, false);
+    WaitUntil([this] { return (::GetAsyncKeyState(key_) & 0x8000) != 0; }, 2s);
+}
+
+HeldKey::~HeldKey() {
+    SendKey(key_, true);
+    WaitUntil([this] { return (::GetAsyncKeyState(key_) & 0x8000) == 0; }, 2s);
+}
+
 void PressKey(WORD virtualKey) {
     INPUT keys[2]{};
     keys[0].type = INPUT_KEYBOARD;

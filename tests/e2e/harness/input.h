@@ -18,4 +18,16 @@ bool ClickWindow(HWND hwnd);
 // Presses and releases one key.
 void PressKey(WORD virtualKey);
 
+// Holds a key down for as long as the object lives: a click with Ctrl held.
+class HeldKey {
+public:
+    explicit HeldKey(WORD virtualKey);
+    ~HeldKey();
+    HeldKey(const HeldKey&) = delete;
+    HeldKey& operator=(const HeldKey&) = delete;
+
+private:
+    WORD key_;
+};
+
 } // namespace E2e

@@ -77,6 +77,22 @@ bool WaitForNoVisibleWindow(const std::string& className, DWORD processId, Durat
     return WaitUntil([&] { return Visible(TopLevelWindows(className, processId)).empty(); }, timeout);
 }
 
+StandInWindow::StandInWindow(const wchar_t* className, const wchar_t* title) {
+    WNDCLASSW wc{};
+    wc.lpfnWndProc = ::DefWindowProcW;
+    wc.hInstance = ::GetModuleHandleW(nullptr);
+    wc.hbrBackground = static_cast<HBRUSH>(::GetStockObject(LTGRAY_BRUSH));
+    wc.lpszClassName = className;
+    ::RegisterClassW(&wc);
+    hwnd_ = ::CreateWindowExW(WS_EX_TOOLWINDOW, className, title, WS_POPUP | WS_VISIBLE, 0, 700, 300, 30, nullptr,
+                              nullptr, wc.hInstance, nullptr);
+}
+
+StandInWindow::~StandInWindow() {
+    if (hwnd_)
+        ::DestroyWindow(hwnd_);
+}
+
 std::vector<WindowInfo> ChildWindows(HWND parent) {
     std::vector<HWND> all;
     ::EnumChildWindows(parent, Collect, reinterpret_cast<LPARAM>(&all));

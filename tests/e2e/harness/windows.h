@@ -32,6 +32,23 @@ std::optional<WindowInfo> WaitForVisibleWindow(const std::string& className, DWO
 // True when no visible window of the class (and process) is left before the time is up.
 bool WaitForNoVisibleWindow(const std::string& className, DWORD processId, Duration timeout);
 
+// A visible top-level window of the test's own with a class and title that the program
+// looks for (the shell's taskbar, its desktop): being the newest, it is found before the
+// shell's own, and nothing but the program and the test touches it.
+class StandInWindow {
+public:
+    StandInWindow(const wchar_t* className, const wchar_t* title);
+    ~StandInWindow();
+    StandInWindow(const StandInWindow&) = delete;
+    StandInWindow& operator=(const StandInWindow&) = delete;
+
+    HWND hwnd() const { return hwnd_; }
+    bool visible() const { return ::IsWindowVisible(hwnd_) != FALSE; }
+
+private:
+    HWND hwnd_ = nullptr;
+};
+
 // Direct children of a window, in their order.
 std::vector<WindowInfo> ChildWindows(HWND parent);
 

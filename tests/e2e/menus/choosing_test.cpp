@@ -1,0 +1,191 @@
+// Choosing items of a menu with the mouse, as a user does: programs, documents and
+// command lines start, internal commands act, and the menu closes unless Ctrl is held.
+#include "harness/dialogs.h"
+#include "harness/input.h"
+#include "harness/menu_files.h"
+#include "harness/menu_window.h"
+#include "harness/program_folder.h"
+#include "harness/tarvex.h"
+#include "win/text_convert.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using namespace E2e;
+
+std::string SystemFile(const char* name) {
+    wchar_t folder[MAX_PATH];
+    ::GetSystemDirectoryW(folder, MAX_PATH);
+    return Win::Narrow(folder) + "\\" + name;
+}
+
+// An item that runs cmd.exe to write a file: it proves that the item started, with
+// its arguments, in its start folder.
+TestItem WritesAFile(const std::string& label, const std::string& startFolder, const std::string& file) {
+    TestItem item = Item(label, 0, SystemFile("cmd.exe"));
+    item.arg = "/c cd > " + file;
+    item.startPath = startFolder;
+    return item;
+}
+
+HWND Taskbar() {
+    return ::FindWindowW(L"Shell_TrayWnd", nullptr);
+}
+
+class Choosing : public ::testing::Test {
+protected:
+    // Starts the program with a menu of the items open at start, and waits for it.
+    void Open(const std::vector<TestItem>& items) {
+        ASSERT_TRUE(folder.ready());
+        folder.WriteSettings(StartupMenuSettings("Programs", 200, 120));
+        folder.WriteMenus(MenuFileText({{"Programs", items}}));
+        ASSERT_TRUE(tarvex.Start(folder));
+        std::optional<WindowInfo> found = WaitForMenuWindow(tarvex.processId());
+        ASSERT_TRUE(found) << "no menu at start";
+        menu = found->rect;
+    }
+
+    // The middle of an item's button (1-based).
+    POINT ItemPoint(int item) const {
+        return {(menu.left + menu.right) / 2,
+                menu.top + kPlainTitleHeight + (item - 1) * kPlainButtonHeight + kPlainButtonHeight / 2};
+    }
+
+    void ClickItem(int item) {
+        POINT at = ItemPoint(item);
+        ASSERT_TRUE(Click(at.x, at.y));
+    }
+
+    // Wine takes the modifiers' state from the X server when the pointer moves, which
+    // lets Ctrl go; so the pointer is there first, and Ctrl goes down for the click alone.
+    void CtrlClickItem(int item) {
+        POINT at = ItemPoint(item);
+        ASSERT_TRUE(MoveMouse(at.x, at.y));
+        HeldKey ctrl(VK_CONTROL);
+        ClickDuringCapture(at.x, at.y);
+        Settle(200ms); // the release reaches the menu while Ctrl is still down
+    }
+
+    bool MenuClosed() { return WaitForNoVisibleWindow(kMenuClass, tarvex.processId(), 10s); }
+    bool MenuStaysOpen() {
+        Settle(500ms);
+        return WaitForVisibleWindow(kMenuClass, tarvex.processId(), 0ms).has_value();
+    }
+
+    // The box that comes up, answered with the button; its title and text.
+    std::pair<std::string, std::string> AnswerBox(const std::string& button) {
+        std::optional<WindowInfo> box = WaitForMessageBox(tarvex.processId());
+        if (!box)
+            return {};
+        std::pair<std::string, std::string> seen{box->title, DialogText(box->hwnd)};
+        EXPECT_TRUE(PressButton(box->hwnd, button));
+        return seen;
+    }
+
+    ProgramFolder folder;
+    Tarvex tarvex;
+    RECT menu{};
+};
+
+} // namespace
+
+TEST_F(Choosing, AProgramItemStartsWithItsArgumentsInItsStartFolderAndTheMenuCloses) {
+    TempFolder work;
+    ASSERT_NO_FATAL_FAILURE(Open({WritesAFile("Where am I", work.path(), "started.txt")}));
+    ClickItem(1);
+    // cmd.exe writes the folder it runs in: the item's start folder.
+    EXPECT_TRUE(WaitUntil(
+        [&] { return work.Exists("started.txt") && work.ReadBytes("started.txt").find(work.path()) != std::string::npos; },
+        20s))
+        << "cmd.exe did not run in the start folder";
+    EXPECT_TRUE(MenuClosed());
+}
+
+TEST_F(Choosing, RunState2StartsTheProgramMaximised) {
+    TestItem notepad = Item("Text Editor", 0, "notepad.exe");
+    notepad.runState = 2;
+    ASSERT_NO_FATAL_FAILURE(Open({notepad}));
+    ClickItem(1);
+    std::optional<WindowInfo> editor = WaitForVisibleWindow("Notepad", 0, 20s);
+    ASSERT_TRUE(editor) << "notepad did not start";
+    EXPECT_TRUE(WaitUntil([&] { return ::IsZoomed(editor->hwnd) != FALSE; }, 10s));
+    ::PostMessageW(editor->hwnd, WM_CLOSE, 0, 0);
+    EXPECT_TRUE(WaitForNoVisibleWindow("Notepad", 0, 10s));
+}
+
+TEST_F(Choosing, AMissingProgramShowsWhyAfterTheMenuTriedIt) {
+    ASSERT_NO_FATAL_FAILURE(Open({Item("Lost Tool", 0, folder.File("missing.exe"))}));
+    ClickItem(1);
+    EXPECT_EQ(AnswerBox("OK"), std::make_pair(std::string("Tarvex - Error running Lost Tool"),
+                                              std::string("File not found.")));
+    EXPECT_TRUE(MenuClosed()) << "the menu goes on as after a success";
+}
+
+TEST_F(Choosing, CtrlHeldKeepsTheMenuOpenForTheNextChoice) {
+    TempFolder work;
+    ASSERT_NO_FATAL_FAILURE(Open({WritesAFile("First", work.path(), "first.txt"),
+                                  WritesAFile("Second", work.path(), "second.txt")}));
+    CtrlClickItem(1);
+    EXPECT_TRUE(WaitUntil([&] { return work.Exists("first.txt"); }, 20s));
+    EXPECT_TRUE(MenuStaysOpen());
+    ClickItem(2);
+    EXPECT_TRUE(WaitUntil([&] { return work.Exists("second.txt"); }, 20s));
+    EXPECT_TRUE(MenuClosed());
+}
+
+TEST_F(Choosing, ACommandLineItemRuns) {
+    TempFolder work;
+    std::string marker = work.File("command.txt");
+    // Not ending in a quote: the profile functions take a value's outer quotes away.
+    ASSERT_NO_FATAL_FAILURE(Open({Item("Log it", 1, "\"" + SystemFile("cmd.exe") + "\" /c echo ran > " + marker)}));
+    ClickItem(1);
+    EXPECT_TRUE(WaitUntil([&] { return work.Exists("command.txt"); }, 20s));
+    EXPECT_TRUE(MenuClosed());
+}
+
+TEST_F(Choosing, HideAndShowTheTaskbar) {
+    HWND taskbar = Taskbar();
+    ASSERT_TRUE(taskbar && ::IsWindowVisible(taskbar)) << "the desktop has a visible taskbar";
+    ASSERT_NO_FATAL_FAILURE(Open({Item("Hide Taskbar", 1, "*31"), Item("Show Taskbar", 1, "*30")}));
+    // Ctrl keeps the menu open: Wine's desktop shows its taskbar again when the windows
+    // it lists change, as when a menu closes.
+    CtrlClickItem(1);
+    EXPECT_TRUE(WaitUntil([&] { return !::IsWindowVisible(taskbar); }, 10s)) << "*31 hides it";
+    CtrlClickItem(2);
+    EXPECT_TRUE(WaitUntil([&] { return ::IsWindowVisible(taskbar) != FALSE; }, 10s)) << "*30 shows it";
+    ClickItem(2);
+    EXPECT_TRUE(MenuClosed());
+    EXPECT_TRUE(::IsWindowVisible(taskbar));
+}
+
+// A taskbar of the test's own, which nothing else shows again.
+TEST_F(Choosing, ATaskbarTheProgramHidIsShownAgainWhenItExits) {
+    StandInWindow taskbar(L"Shell_TrayWnd", L"");
+    ASSERT_EQ(Taskbar(), taskbar.hwnd());
+    ASSERT_NO_FATAL_FAILURE(Open({Item("Hide Taskbar", 1, "*31")}));
+    ClickItem(1);
+    EXPECT_TRUE(WaitUntil([&] { return !taskbar.visible(); }, 10s));
+    EXPECT_TRUE(MenuClosed());
+    ASSERT_TRUE(tarvex.ExitThroughTray());
+    EXPECT_TRUE(taskbar.visible()) << "the program put back the taskbar it hid";
+}
+
+TEST_F(Choosing, ExitTarvexAsksAndYesEndsTheProgram) {
+    ASSERT_NO_FATAL_FAILURE(Open({Item("Exit Tarvex", 1, "*9")}));
+    ClickItem(1);
+    EXPECT_EQ(AnswerBox("Yes"),
+              std::make_pair(std::string("Tarvex"), std::string("This will shutdown Tarvex. Are you sure?")));
+    EXPECT_TRUE(tarvex.WaitForExit(20s));
+}
+
+TEST_F(Choosing, AnUnassignedCodeAndAFailedEjectSaySo) {
+    ASSERT_NO_FATAL_FAILURE(Open({Item("Nothing", 1, "*5"), Item("Eject Q", 1, "*116")}));
+    CtrlClickItem(1);
+    EXPECT_EQ(AnswerBox("OK").second, "Sorry, this Internal Command is not yet implemented...");
+    CtrlClickItem(2);
+    EXPECT_EQ(AnswerBox("OK").second, "Sorry, unable to eject media on drive Q");
+}
