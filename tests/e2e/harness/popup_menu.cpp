@@ -6,8 +6,23 @@
 
 namespace E2e {
 
+namespace {
+
+// The thread that shows the menu is in its menu loop, which holds the mouse.
+bool Tracking(HWND menu) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    DWORD thread = ::GetWindowThreadProcessId(menu, nullptr);
+    return ::GetGUIThreadInfo(thread, &info) && (info.flags & GUI_INMENUMODE) != 0;
+}
+
+} // namespace
+
 std::optional<WindowInfo> WaitForPopupMenu(DWORD processId, Duration timeout) {
-    return WaitForVisibleWindow(kPopupMenuClass, processId, timeout);
+    std::optional<WindowInfo> menu = WaitForVisibleWindow(kPopupMenuClass, processId, timeout);
+    if (!menu || !WaitUntil([&] { return Tracking(menu->hwnd); }, timeout))
+        return std::nullopt;
+    return menu;
 }
 
 bool WaitForPopupMenuGone(DWORD processId, Duration timeout) {

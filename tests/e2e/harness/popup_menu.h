@@ -14,6 +14,8 @@ namespace E2e {
 
 inline constexpr const char* kPopupMenuClass = "#32768";
 
+// The visible popup menu of the process, once the menu tracks the mouse and keys: a
+// click or key sent before then would miss it.
 std::optional<WindowInfo> WaitForPopupMenu(DWORD processId, Duration timeout = 10s);
 bool WaitForPopupMenuGone(DWORD processId, Duration timeout = 10s);
 
