@@ -54,13 +54,23 @@ public:
         ::Ellipse(dc_, op.rect.left, op.rect.top, op.rect.right, op.rect.bottom);
     }
 
+    // Each piece in its own font, the next one where the last ended: along the line, or
+    // upwards for the turned title.
     void operator()(const TextOp& op) {
-        Win::SelectGuard font(dc_, fonts_.Get(op.font));
         ::SetTextColor(dc_, ToColorRef(op.colour));
-        std::wstring text = Win::Widen(op.text);
         RECT clip = ToRect(op.clip);
-        ::ExtTextOutW(dc_, op.origin.x, op.origin.y, ETO_CLIPPED, &clip, text.c_str(), static_cast<UINT>(text.size()),
-                      nullptr);
+        POINT at{op.origin.x, op.origin.y};
+        for (const TextPiece& piece : fonts_.Pieces(op.font, Win::Widen(op.text))) {
+            Win::SelectGuard font(dc_, piece.font);
+            UINT length = static_cast<UINT>(piece.text.size());
+            ::ExtTextOutW(dc_, at.x, at.y, ETO_CLIPPED, &clip, piece.text.c_str(), length, nullptr);
+            SIZE extent{};
+            ::GetTextExtentPoint32W(dc_, piece.text.c_str(), static_cast<int>(length), &extent);
+            if (op.font == FontRole::TitleVertical)
+                at.y -= extent.cx;
+            else
+                at.x += extent.cx;
+        }
     }
 
     void operator()(const IconOp& op) {

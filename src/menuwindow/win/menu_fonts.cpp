@@ -1,5 +1,6 @@
 #include "menuwindow/win/menu_fonts.h"
 
+#include "menuwindow/text_runs.h"
 #include "win/text_convert.h"
 
 #include <cwchar>
@@ -29,6 +30,45 @@ Win::UniqueFont MakeFont(const FontSpec& spec) {
     return Win::UniqueFont(::CreateFontIndirectW(&font));
 }
 
+int CALLBACK CollectFamily(const LOGFONTW* font, const TEXTMETRICW*, DWORD type, LPARAM faces) {
+    // Outline fonts only, and no vertical-writing ("@") faces.
+    if ((type & TRUETYPE_FONTTYPE) && font->lfFaceName[0] != L'@')
+        reinterpret_cast<std::vector<std::wstring>*>(faces)->push_back(font->lfFaceName);
+    return 1;
+}
+
+// The installed font families, read once.
+const std::vector<std::wstring>& InstalledFaces() {
+    static const std::vector<std::wstring> faces = [] {
+        std::vector<std::wstring> found;
+        LOGFONTW any{};
+        any.lfCharSet = DEFAULT_CHARSET;
+        Win::WindowDc screen(nullptr);
+        ::EnumFontFamiliesExW(screen.get(), &any, CollectFamily, reinterpret_cast<LPARAM>(&found), 0);
+        return found;
+    }();
+    return faces;
+}
+
+// Which units of the text the font has no glyph for.
+std::vector<bool> MissingGlyphs(HDC dc, HFONT font, std::wstring_view text) {
+    Win::SelectGuard select(dc, font);
+    std::vector<WORD> glyphs(text.size());
+    ::GetGlyphIndicesW(dc, text.data(), static_cast<int>(text.size()), glyphs.data(), GGI_MARK_NONEXISTING_GLYPHS);
+    std::vector<bool> missing(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i)
+        missing[i] = glyphs[i] == 0xFFFF;
+    return missing;
+}
+
+bool HasAll(HDC dc, HFONT font, std::wstring_view text) {
+    for (bool missing : MissingGlyphs(dc, font, text)) {
+        if (missing)
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 bool FontFaceExists(std::string_view face) {
@@ -50,8 +90,11 @@ MenuFonts::MenuFonts() {
 }
 
 void MenuFonts::Build(const MenuLook& look, int dpi) {
+    otherFaces_.clear();
+    faceOfBlock_.clear();
     auto make = [&](FontRole role) {
-        FontSpec spec = FontSpecOf(look, role, dpi);
+        FontSpec& spec = specs_[static_cast<std::size_t>(role)];
+        spec = FontSpecOf(look, role, dpi);
         spec.face = ChooseFace(spec.face, FontFaceExists);
         return MakeFont(spec);
     };
@@ -80,16 +123,57 @@ HFONT MenuFonts::Get(FontRole role) const {
     return button_.get();
 }
 
+std::vector<TextPiece> MenuFonts::Pieces(FontRole role, std::wstring_view text) const {
+    HFONT own = Get(role);
+    std::vector<TextPiece> pieces;
+    for (const TextRun& run : SplitTextRuns(MissingGlyphs(measureDc_.get(), own, text))) {
+        std::wstring_view part = text.substr(run.start, run.length);
+        HFONT font = run.fallback ? FallbackFor(role, part) : own;
+        pieces.push_back({std::wstring(part), font ? font : own});
+    }
+    return pieces;
+}
+
+// The face found for the run's first character serves its whole block of characters,
+// so the installed fonts are searched once per script rather than once per text.
+HFONT MenuFonts::FallbackFor(FontRole role, std::wstring_view run) const {
+    auto key = std::make_pair(role, static_cast<wchar_t>(run.front() >> 7));
+    auto known = faceOfBlock_.find(key);
+    if (known != faceOfBlock_.end())
+        return known->second.empty() ? nullptr : FontOfFace(role, known->second);
+    for (const std::wstring& face : InstalledFaces()) {
+        HFONT font = FontOfFace(role, face);
+        if (font && HasAll(measureDc_.get(), font, run)) {
+            faceOfBlock_[key] = face;
+            return font;
+        }
+    }
+    faceOfBlock_[key].clear();
+    return nullptr;
+}
+
+HFONT MenuFonts::FontOfFace(FontRole role, const std::wstring& face) const {
+    Win::UniqueFont& font = otherFaces_[{role, face}];
+    if (!font) {
+        FontSpec spec = specs_[static_cast<std::size_t>(role)];
+        spec.face = Win::Narrow(face);
+        font = MakeFont(spec);
+    }
+    return font.get();
+}
+
 // A turned font measures the same length as the upright one; the upright one is asked.
 int MenuFonts::Width(FontRole role, std::string_view text) const {
     if (text.empty())
         return 0;
-    HFONT font = Get(role == FontRole::TitleVertical ? FontRole::Title : role);
-    Win::SelectGuard select(measureDc_.get(), font);
-    std::wstring wide = Win::Widen(text);
-    SIZE extent{};
-    ::GetTextExtentPoint32W(measureDc_.get(), wide.c_str(), static_cast<int>(wide.size()), &extent);
-    return extent.cx;
+    int width = 0;
+    for (const TextPiece& piece : Pieces(role == FontRole::TitleVertical ? FontRole::Title : role, Win::Widen(text))) {
+        Win::SelectGuard select(measureDc_.get(), piece.font);
+        SIZE extent{};
+        ::GetTextExtentPoint32W(measureDc_.get(), piece.text.c_str(), static_cast<int>(piece.text.size()), &extent);
+        width += extent.cx;
+    }
+    return width;
 }
 
 int MenuFonts::Height(FontRole role) const {

@@ -81,3 +81,27 @@ TEST(MenuFonts, TheTitleFontIsMadeUprightAndTurnedWithItsSizeWeightAndSlant) {
     EXPECT_EQ(button.lfHeight, -12);
     EXPECT_EQ(button.lfWeight, FW_NORMAL);
 }
+
+// The test machine has a font with Japanese glyphs (the bootstrap installs one) but the
+// menu's own font has none: those characters are drawn in the other font, in the same size.
+TEST(MenuFonts, CharactersTheMenuFontLacksAreDrawnInAFontThatHasThem) {
+    MenuFonts fonts;
+    fonts.Build(Look("Arial", "Arial"), 96);
+    std::vector<TextPiece> latin = fonts.Pieces(FontRole::Button, L"Text Editor");
+    ASSERT_EQ(latin.size(), 1u);
+    EXPECT_EQ(latin[0].font, fonts.Get(FontRole::Button));
+
+    std::vector<TextPiece> mixed = fonts.Pieces(FontRole::Button, L"Editor \u30c6\u30ad\u30b9\u30c8");
+    ASSERT_EQ(mixed.size(), 2u);
+    EXPECT_EQ(mixed[0].text, L"Editor ");
+    EXPECT_EQ(mixed[1].text, L"\u30c6\u30ad\u30b9\u30c8");
+    ASSERT_NE(mixed[1].font, fonts.Get(FontRole::Button)) << "no installed font has the Japanese glyphs";
+    Win::UniqueMemoryDc dc(::CreateCompatibleDC(nullptr));
+    Win::SelectGuard select(dc.get(), mixed[1].font);
+    WORD glyphs[4];
+    ::GetGlyphIndicesW(dc.get(), mixed[1].text.c_str(), 4, glyphs, GGI_MARK_NONEXISTING_GLYPHS);
+    for (WORD glyph : glyphs)
+        EXPECT_NE(glyph, 0xFFFF);
+    EXPECT_EQ(Described(mixed[1].font).lfHeight, Described(fonts.Get(FontRole::Button)).lfHeight);
+    EXPECT_GT(fonts.Width(FontRole::Button, "Editor \xE3\x83\x86"), fonts.Width(FontRole::Button, "Editor "));
+}
