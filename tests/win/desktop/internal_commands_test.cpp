@@ -1,7 +1,6 @@
 // Internal commands that change the desktop or end the session, against windows of the
 // shell's classes that the test makes, with the calls that end a session replaced.
 #include "core/win/form1.h"
-#include "core/win/subroutines.h"
 #include "desktop/win/internal_commands.h"
 #include "support/answered_message_boxes.h"
 
@@ -65,7 +64,7 @@ protected:
 
 } // namespace
 
-TEST_F(InternalCommandsTest, TaskbarAndDesktopIconsHideShowAndToggleAndTheExitPutsThemBack) {
+TEST_F(InternalCommandsTest, TaskbarAndDesktopIconsHideShowAndToggleAndTheSessionEndPutsThemBack) {
     EXPECT_EQ(Run(31), 31);
     EXPECT_FALSE(taskbar.visible());
     EXPECT_TRUE(program.desktopChanges.TaskbarHidden);
@@ -82,8 +81,9 @@ TEST_F(InternalCommandsTest, TaskbarAndDesktopIconsHideShowAndToggleAndTheExitPu
     Run(33);
     EXPECT_FALSE(icons.visible());
 
-    Subroutines::ExitProgram(form1, true);
-    EXPECT_TRUE(taskbar.visible()) << "the exit shows the taskbar it hid";
+    // The session ends, ended by the user through the shell: the program ends quietly.
+    ::SendMessageW(form1.hwnd(), WM_ENDSESSION, TRUE, 0);
+    EXPECT_TRUE(taskbar.visible()) << "the program shows the taskbar it hid";
     EXPECT_TRUE(icons.visible()) << "and the desktop icons";
 }
 
