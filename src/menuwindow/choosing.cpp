@@ -46,12 +46,9 @@ Choice ChoiceOf(std::uint8_t type, bool taskListMenu) {
 }
 
 AfterChoice AfterChoosing(std::optional<std::int16_t> commandResult, bool ctrlHeld) {
-    AfterChoice after;
     if (commandResult == kExitResult || commandResult == kPreferencesResult)
-        return {false, false};
-    after.bringForward = commandResult == kRestoreAllWindowsResult;
-    after.closeCascade = !ctrlHeld;
-    return after;
+        return {false, false, false};
+    return {!ctrlHeld, commandResult == kRestoreAllWindowsResult, true};
 }
 
 } // namespace MenuWindow

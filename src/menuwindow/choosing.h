@@ -44,13 +44,14 @@ Choice ChoiceOf(std::uint8_t type, bool taskListMenu);
 
 struct AfterChoice {
     bool closeCascade = true;
-    bool bringForward = false; // the menu window's set-foreground timer
+    bool bringForward = false;  // the menu window's set-foreground timer
+    bool clearSelection = true; // the chosen item is drawn without the selection bar
     bool operator==(const AfterChoice&) const = default;
 };
 
 // After the choice: the exit and preferences commands (results 9 and 14) leave the
-// menus as they are; "Restore All Windows" (27) brings the menu forward again later;
-// holding Ctrl at the click keeps the menus open to choose more.
+// menus exactly as they are; "Restore All Windows" (27) brings the menu forward again
+// later; holding Ctrl at the click keeps the menus open to choose more.
 AfterChoice AfterChoosing(std::optional<std::int16_t> commandResult, bool ctrlHeld);
 
 } // namespace MenuWindow

@@ -94,7 +94,8 @@ std::int16_t RunInternalCommand(Form1& form1, std::int16_t code) {
         Subroutines::ExitProgram(form1, false);
         break;
     case Kind::Preferences:
-        form1.Show_Setup_Screen();
+        if (!program.values.PreferencesOpen)
+            form1.Show_Setup_Screen();
         break;
     case Kind::Help:
         ShowHelp(program);

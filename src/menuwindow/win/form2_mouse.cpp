@@ -84,9 +84,8 @@ void Form2::Choose(int item, bool ctrlHeld) {
     AfterChoice after = AfterChoosing(commandResult, ctrlHeld);
     if (after.bringForward)
         StartSetForegroundTimer();
-    if (commandResult && !after.closeCascade && !ctrlHeld)
-        return; // the exit and the preferences leave the menu as it is
-    SetSelection({});
+    if (after.clearSelection)
+        SetSelection({});
     if (after.closeCascade)
         CloseCascade();
 }

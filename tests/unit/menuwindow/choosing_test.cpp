@@ -75,9 +75,9 @@ TEST(Choosing, TheMenusCloseAfterAChoiceUnlessCtrlOrTheCommandKeepsThem) {
         bool ctrl;
         AfterChoice after;
     };
-    for (const Case& c : {Case{std::nullopt, false, {true, false}}, Case{std::nullopt, true, {false, false}},
-                          Case{-1, false, {true, false}}, Case{12, false, {true, false}},
-                          Case{9, false, {false, false}}, Case{14, false, {false, false}},
-                          Case{27, false, {true, true}}, Case{27, true, {false, true}}})
+    for (const Case& c : {Case{std::nullopt, false, {true, false, true}}, Case{std::nullopt, true, {false, false, true}},
+                          Case{-1, false, {true, false, true}}, Case{12, false, {true, false, true}},
+                          Case{9, false, {false, false, false}}, Case{14, true, {false, false, false}},
+                          Case{27, false, {true, true, true}}, Case{27, true, {false, true, true}}})
         EXPECT_EQ(AfterChoosing(c.result, c.ctrl), c.after) << (c.result ? *c.result : -99) << " ctrl " << c.ctrl;
 }
