@@ -167,7 +167,10 @@ std::string EjectFailedMessage(char drive) {
 }
 
 std::string HelpMissingMessage(std::intptr_t errorCode) {
-    return "Sorry, the Help file could not be found (error code" + std::to_string(errorCode) + ").";
+    std::string message = "Sorry, the Help file could not be found (error code";
+    message += std::to_string(errorCode);
+    message += ").";
+    return message;
 }
 
 } // namespace CommandActions

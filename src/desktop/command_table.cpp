@@ -139,6 +139,13 @@ private:
     std::vector<CommandRow> rows_;
 };
 
+// "*" and the code, built up: GCC 12 warns falsely on "*" + a temporary string.
+std::string EjectCommand(char letter) {
+    std::string command = "*";
+    command += std::to_string(kFirstEjectCode + (letter - 'A'));
+    return command;
+}
+
 std::string EjectLabel(char letter, bool cdRom) {
     std::string label = cdRom ? "Eject CD-ROM " : "Eject Drive ";
     label += letter;
@@ -153,7 +160,7 @@ std::vector<CommandRow> BuildCommandTable(const std::string& systemFolder, const
     for (const RowSpec& row : kInternalRows)
         table.Add(row.label, row.icon, std::string(row.command));
     for (char letter = 'A'; letter <= 'Z'; ++letter) {
-        table.Add(EjectLabel(letter, isCdRom(letter)), kEjectIcon, "*" + std::to_string(kFirstEjectCode + (letter - 'A')));
+        table.Add(EjectLabel(letter, isCdRom(letter)), kEjectIcon, EjectCommand(letter));
     }
     for (const AppletSpec& applet : kApplets) {
         std::string command = applet.commandLine.empty() ? std::string(kControlRunDll) + std::string(applet.applet)

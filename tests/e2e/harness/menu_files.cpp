@@ -4,8 +4,23 @@ namespace E2e {
 
 namespace {
 
+// Built up by appending: GCC 12 warns falsely on a literal + a temporary string.
 std::string Line(const std::string& key, long long number, const std::string& value) {
-    return key + "-" + std::to_string(number) + "=" + value + "\r\n";
+    std::string line = key;
+    line += "-";
+    line += std::to_string(number);
+    line += "=";
+    line += value;
+    line += "\r\n";
+    return line;
+}
+
+std::string Setting(const std::string& key, const std::string& value) {
+    std::string line = key;
+    line += "=";
+    line += value;
+    line += "\n";
+    return line;
 }
 
 } // namespace
@@ -26,7 +41,9 @@ std::string MenuFileText(const std::vector<TestMenu>& menus) {
                 Line("SOUNDPATH", number, "") + Line("APPPATH", number, "");
     }
     for (std::size_t i = 0; i < menus.size(); ++i) {
-        text += "\r\n[MENU-" + std::to_string(i + 1) + "]\r\n";
+        text += "\r\n[MENU-";
+        text += std::to_string(i + 1);
+        text += "]\r\n";
         const std::vector<TestItem>& items = menus[i].items;
         for (std::size_t p = 0; p < items.size(); ++p) {
             const TestItem& item = items[p];
@@ -48,16 +65,19 @@ std::vector<TestItem> NotepadItems(const std::vector<std::string>& labels) {
 }
 
 std::string StartupMenuSettings(const std::string& menuName, int left, int top, const std::string& extra) {
-    std::string text = "[TARVEX]\n" + extra;
+    std::string text = "[TARVEX]\n";
+    text += extra;
     text += "GenShowInTray=False\nNoOfHotSpots=0\nGenStartupHotspot0=0\n";
     text += "HotSpot0x1=48\nHotSpot0x2=1024\nHotSpot0y1=0\nHotSpot0y2=768\n";
     text += "HotSpot0App=Desktop\nHotSpot0GroupName=Default\n";
-    text += "HotSpot0Type=1\nHotSpot0Menupath1=" + menuName + "\n";
-    text += "HotSpot0Menuleft=" + std::to_string(left) + "\nHotSpot0Menutop=" + std::to_string(top) + "\n";
+    text += "HotSpot0Type=1\n";
+    text += Setting("HotSpot0Menupath1", menuName);
+    text += Setting("HotSpot0Menuleft", std::to_string(left));
+    text += Setting("HotSpot0Menutop", std::to_string(top));
     text += "TitleColor=8400912\nTitleFontColor=57599\nTitleGradient=False\nTitleFlat=True\nTitleOverlap=False\n";
-    text += "TitleVSize=" + std::to_string(kPlainTitleHeight) + "\n";
+    text += Setting("TitleVSize", std::to_string(kPlainTitleHeight));
     text += "ButtonColor=15788256\nButtonFontColor=3153936\nButtonGradient=False\nButtonFlat=1\n";
-    text += "ButtonVSize=" + std::to_string(kPlainButtonHeight) + "\n";
+    text += Setting("ButtonVSize", std::to_string(kPlainButtonHeight));
     text += "MenuNoFrames=1\nTwinScrollButtons=False\n";
     return text;
 }

@@ -27,7 +27,8 @@ std::string SystemFile(const char* name) {
 // its arguments, in its start folder.
 TestItem WritesAFile(const std::string& label, const std::string& startFolder, const std::string& file) {
     TestItem item = Item(label, 0, SystemFile("cmd.exe"));
-    item.arg = "/c cd > " + file;
+    item.arg = "/c cd > ";
+    item.arg += file;
     item.startPath = startFolder;
     return item;
 }
@@ -141,7 +142,10 @@ TEST_F(Choosing, ACommandLineItemRuns) {
     TempFolder work;
     std::string marker = work.File("command.txt");
     // Not ending in a quote: the profile functions take a value's outer quotes away.
-    ASSERT_NO_FATAL_FAILURE(Open({Item("Log it", 1, "\"" + SystemFile("cmd.exe") + "\" /c echo ran > " + marker)}));
+    std::string command = SystemFile("cmd.exe");
+    command += " /c echo ran > ";
+    command += marker;
+    ASSERT_NO_FATAL_FAILURE(Open({Item("Log it", 1, command)}));
     ClickItem(1);
     EXPECT_TRUE(WaitUntil([&] { return work.Exists("command.txt"); }, 20s));
     EXPECT_TRUE(MenuClosed());

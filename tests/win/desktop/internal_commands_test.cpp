@@ -45,7 +45,11 @@ protected:
         previous = InternalCommands::SetSessionControl(
             {[this] { calls.push_back("privilege, taskbar " + Shown()); },
              [this](std::uint32_t flags) {
-                 calls.push_back("end " + std::to_string(flags) + ", taskbar " + Shown());
+                 std::string call = "end ";
+                 call += std::to_string(flags);
+                 call += ", taskbar ";
+                 call += Shown();
+                 calls.push_back(call);
                  return true;
              }});
     }

@@ -63,8 +63,10 @@ TEST_F(LauncherTest, HugeOrEmptyPathsAndArgumentsEndInABoxOrAStartNeverACrash) {
     EXPECT_EQ(boxes.requests[0].text, "File not found.");
     EXPECT_EQ(boxes.requests[1].title, "Tarvex - Error running Empty");
     std::string marker = folder.File("long-arguments.txt");
-    Launcher::RunProgram(program, "Args", folder.path(), SystemFile("cmd.exe"),
-                         "/c echo " + std::string(7000, 'x') + " > long-arguments.txt", 0);
+    std::string arguments = "/c echo ";
+    arguments.append(7000, 'x');
+    arguments += " > long-arguments.txt";
+    Launcher::RunProgram(program, "Args", folder.path(), SystemFile("cmd.exe"), arguments, 0);
     EXPECT_TRUE(WaitForFile(marker));
 }
 
@@ -73,7 +75,10 @@ TEST_F(LauncherTest, ACommandLineStartsAndACodeRunsItsInternalCommand) {
     ASSERT_TRUE(form1.Create());
     AnsweredMessageBoxes boxes(MessageBoxes::kOk);
     std::string marker = folder.File("command.txt");
-    EXPECT_EQ(Launcher::RunCommand(form1, "\"" + SystemFile("cmd.exe") + "\" /c echo run > \"" + marker + "\""), -1);
+    std::string command = SystemFile("cmd.exe");
+    command += " /c echo run > ";
+    command += marker;
+    EXPECT_EQ(Launcher::RunCommand(form1, command), -1);
     EXPECT_TRUE(WaitForFile(marker));
     EXPECT_TRUE(boxes.requests.empty());
     for (const char* unknown : {"*3", "*99999", "*43"}) {
