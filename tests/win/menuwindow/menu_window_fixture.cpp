@@ -66,7 +66,9 @@ int MenuWindowTest::AddMenu(const std::string& name, const std::vector<std::stri
     int number = menus.MenuCount();
     for (const std::string& label : labels) {
         std::int32_t slot = DataManager::AppendItem(menus, number - 1);
-        menus.pool[static_cast<std::size_t>(slot)].LABEL = label;
+        MenuItemRec& item = menus.pool[static_cast<std::size_t>(slot)];
+        item.LABEL = label;
+        item.HOTKEY.assign(1, '0'); // as a menu file holds an item without a hot key
     }
     return number;
 }

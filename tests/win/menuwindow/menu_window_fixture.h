@@ -50,7 +50,7 @@ class MenuWindowTest : public ::testing::Test {
 protected:
     void TearDown() override { openMenus.CloseAll(); }
 
-    // Adds a menu with items of the labels (type Filename); returns its number.
+    // Adds a menu with items of the labels (type Filename, no hot key); returns its number.
     int AddMenu(const std::string& name, const std::vector<std::string>& labels);
     // The last menu's item at a position (0-based), to set more of its fields.
     MenuItemRec& ItemOf(int menuNumber, int position);
