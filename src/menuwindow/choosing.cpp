@@ -19,7 +19,7 @@ ReleaseAction SubMenuClick(const Release& release) {
 } // namespace
 
 ReleaseAction DecideRelease(const Release& release) {
-    if (release.releasedItem == 0 || release.releasedItem != release.pressedItem)
+    if (release.releasedItem == 0 || release.releasedItem != release.pressedItem || release.emptyList)
         return ReleaseAction::Nothing;
     bool file = release.type == kItemFilename || release.type == kItemFolderPath;
     if (release.button == MouseButton::Right && file)

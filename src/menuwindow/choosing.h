@@ -18,6 +18,7 @@ struct Release {
     bool subMenuJustOpened = false; // a first click on a folder opened its sub-menu a moment ago
     bool subMenuOpen = false;       // the released item's sub-menu is the one open
     bool toggleSubMenus = false;    // MenuToggleSubMenus
+    bool emptyList = false;         // the one entry is the "(Empty)" of an empty folder
 };
 
 enum class ReleaseAction {
@@ -32,6 +33,7 @@ enum class ReleaseAction {
 // A folder's first click lists it as a sub-menu; a second click on it while
 // subMenuJustOpened is set falls through to Choose, which opens the folder itself. The
 // right button shows a file's or folder's properties and acts like the left on the rest.
+// The "(Empty)" entry of an empty folder names nothing and is never chosen.
 ReleaseAction DecideRelease(const Release& release);
 
 enum class Choice { ActivateTask, RunCommand, RunProgram, None };

@@ -38,6 +38,7 @@ void Form2::Picture2_MouseUp(MouseButton button, WPARAM keys, Point point) {
     if (release.releasedItem)
         release.type = scene_.list.Item(release.releasedItem).TYPE;
     release.toggleSubMenus = look_.MenuToggleSubMenus;
+    release.emptyList = scene_.list.empty;
     switch (DecideRelease(release)) {
     case ReleaseAction::Nothing:
         SetSelection({});

@@ -1,7 +1,9 @@
 // Menus that open when the program starts: a start-up hotspot of type Show Menu or Show
 // Folder opens its menu window, placed and painted as the settings say. Each test saves
 // a screenshot of the look it checks in the screenshot folder.
+#include "harness/dialogs.h"
 #include "harness/failure_screenshots.h"
+#include "harness/input.h"
 #include "harness/menu_files.h"
 #include "harness/menu_window.h"
 #include "harness/program_folder.h"
@@ -224,6 +226,10 @@ TEST_F(StartupMenu, AFolderHotspotListsAnEmptyFolderAsEmpty) {
     EXPECT_EQ(menu->title, "Nothing Here");
     EXPECT_EQ(Height(r), kTitleHeight + kButtonHeight) << "one entry";
     EXPECT_GT(CountOf(r, {0, kTitleHeight, Width(r), Height(r)}, kButtonTextColour), 0) << "\"(Empty)\" is written";
+    ASSERT_TRUE(Click((r.left + r.right) / 2, r.top + kTitleHeight + kButtonHeight / 2));
+    Settle(1s);
+    EXPECT_TRUE(WaitForNoVisibleWindow(kDialogClass, tarvex_.processId(), 0ms)) << "\"(Empty)\" starts nothing";
+    EXPECT_TRUE(WaitForVisibleWindow(kMenuClass, tarvex_.processId(), 0ms)) << "and leaves the menu open";
 }
 
 TEST_F(StartupMenu, AFolderHotspotListsTheFolder) {

@@ -28,6 +28,9 @@ TEST(Choosing, AReleaseChoosesOnlyTheItemThatWasPressed) {
     EXPECT_EQ(DecideRelease(outside), ReleaseAction::Nothing);
     Release noPress = On(0, kItemFilename);
     EXPECT_EQ(DecideRelease(noPress), ReleaseAction::Nothing);
+    Release empty = On(1, kItemFilename);
+    empty.emptyList = true;
+    EXPECT_EQ(DecideRelease(empty), ReleaseAction::Nothing) << "\"(Empty)\" names nothing";
     EXPECT_EQ(DecideRelease(On(2, kItemFilename)), ReleaseAction::Choose);
     EXPECT_EQ(DecideRelease(On(2, kItemCommandName)), ReleaseAction::Choose);
 }
