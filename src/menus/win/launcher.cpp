@@ -25,8 +25,7 @@ void ShowStartError(std::string_view title, std::intptr_t result) {
     MessageBoxes::MsgBox(LaunchRules::ErrorText(result), LaunchRules::ErrorTitle(title), MessageBoxes::kExclamation);
 }
 
-} // namespace
-
+// The sound of an item being started.
 void PlayLaunchSound(const Program& program) {
     const SettingsRec& settings = program.settings;
     MenuWindow::SoundConditions conditions{MenuWindow::WaveDeviceAvailable(), settings.GenSoundsOn,
@@ -35,6 +34,7 @@ void PlayLaunchSound(const Program& program) {
                               conditions);
 }
 
+// Starts a command line in a window state (a show command); a failure is silent.
 void StartCommandLine(std::string_view commandLine, int showCommand) {
     std::wstring line = Win::Widen(commandLine);
     STARTUPINFOW startup{};
@@ -48,6 +48,8 @@ void StartCommandLine(std::string_view commandLine, int showCommand) {
     Win::UniqueKernelHandle thread(started.hThread);
 }
 
+} // namespace
+
 void RunProgram(const Program& program, std::string_view title, std::string_view startFolder, std::string_view path,
                 std::string_view arguments, int runState) {
     PlayLaunchSound(program);
@@ -56,13 +58,13 @@ void RunProgram(const Program& program, std::string_view title, std::string_view
         StartCommandLine(LaunchRules::AppletCommandLine(path), show);
         return;
     }
-    std::wstring file = Win::Widen(path);
-    std::wstring parameters = Win::Widen(arguments);
-    std::wstring folder = Win::Widen(LaunchRules::StartFolderFor(startFolder, path));
     if (!LaunchRules::PathFitsTheShell(path)) {
         ShowStartError(title, LaunchRules::kFileNotFound);
         return;
     }
+    std::wstring file = Win::Widen(path);
+    std::wstring parameters = Win::Widen(arguments);
+    std::wstring folder = Win::Widen(LaunchRules::StartFolderFor(startFolder, path));
     std::intptr_t result = ShellStart(nullptr, file, parameters, folder, show);
     if (LaunchRules::StartFailed(result))
         result = ShellStart(Win::Widen(LaunchRules::kSecondVerb).c_str(), file, parameters, folder, show);

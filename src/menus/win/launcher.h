@@ -27,10 +27,4 @@ std::int16_t RunCommand(Form1& form1, std::string_view value);
 // True when the window is, or became, the foreground window.
 bool ActivateTaskWindow(HWND window);
 
-// Starts a command line in a window state (a show command); a failure is silent.
-void StartCommandLine(std::string_view commandLine, int showCommand);
-
-// Plays the sound of an item being started.
-void PlayLaunchSound(const Program& program);
-
 } // namespace Launcher
