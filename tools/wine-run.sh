@@ -3,8 +3,7 @@
 #   wine-run.sh [--prefix DIR] PROGRAM.exe [ARGS...]
 #   wine-run.sh [--prefix DIR] --init        (only make the prefix)
 # The prefix is private to the build (created once, then reused) and shows a
-# 1024x768 virtual desktop with a taskbar, so that input sent by one process is seen
-# by another.
+# 1024x768 virtual desktop, so that input sent by one process is seen by another.
 # Xvfb is started when there is no display. Runs are serialised on the prefix, and
 # the prefix's wineserver is stopped after each run.
 set -uo pipefail
@@ -29,17 +28,13 @@ ensure_display
 exec 9>"$WINEPREFIX.lock"
 flock 9
 
-# The marker names the prefix's version: a prefix made by an older version is made again.
 make_prefix() {
-    [ -f "$WINEPREFIX/.tarvex-ready-2" ] && return 0
+    [ -f "$WINEPREFIX/.tarvex-ready" ] && return 0
     wineboot --init >/dev/null 2>&1
     wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null 2>&1
     wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d 1024x768 /f >/dev/null 2>&1
-    # A taskbar at the bottom, as a shell has, with or without tray icons: the tests
-    # hide and show it.
-    wine reg add 'HKCU\Software\Wine\Explorer\Desktops\Default' /v EnableShell /t REG_DWORD /d 1 /f >/dev/null 2>&1
     wineserver -w
-    touch "$WINEPREFIX/.tarvex-ready-2"
+    touch "$WINEPREFIX/.tarvex-ready"
 }
 
 make_prefix || { echo "wine-run: could not create the prefix $WINEPREFIX" >&2; exit 1; }

@@ -84,8 +84,11 @@ StandInWindow::StandInWindow(const wchar_t* className, const wchar_t* title) {
     wc.hbrBackground = static_cast<HBRUSH>(::GetStockObject(LTGRAY_BRUSH));
     wc.lpszClassName = className;
     ::RegisterClassW(&wc);
-    hwnd_ = ::CreateWindowExW(WS_EX_TOOLWINDOW, className, title, WS_POPUP | WS_VISIBLE, 0, 700, 300, 30, nullptr,
-                              nullptr, wc.hInstance, nullptr);
+    hwnd_ = ::CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_TOPMOST, className, title, WS_POPUP | WS_VISIBLE, 0, 700, 300,
+                              30, nullptr, nullptr, wc.hInstance, nullptr);
+    // Above the shell's own windows of the class, which may stand in the topmost band.
+    if (hwnd_)
+        ::SetWindowPos(hwnd_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
 StandInWindow::~StandInWindow() {

@@ -33,8 +33,8 @@ std::optional<WindowInfo> WaitForVisibleWindow(const std::string& className, DWO
 bool WaitForNoVisibleWindow(const std::string& className, DWORD processId, Duration timeout);
 
 // A visible top-level window of the test's own with a class and title that the program
-// looks for (the shell's taskbar, its desktop): being the newest, it is found before the
-// shell's own, and nothing but the program and the test touches it.
+// looks for (the shell's taskbar, its desktop): the newest in the topmost band, it is found
+// before the shell's own, and nothing but the program and the test touches it.
 class StandInWindow {
 public:
     StandInWindow(const wchar_t* className, const wchar_t* title);

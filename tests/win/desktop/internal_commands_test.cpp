@@ -14,7 +14,7 @@ namespace {
 using TestSupport::AnsweredMessageBoxes;
 
 // A top-level window of a class the shell's own windows have, found before the shell's
-// because it is the newest.
+// because it is the newest in the topmost band.
 class ShellLikeWindow {
 public:
     ShellLikeWindow(const wchar_t* className, const wchar_t* title) {
@@ -23,8 +23,9 @@ public:
         wc.hInstance = ::GetModuleHandleW(nullptr);
         wc.lpszClassName = className;
         ::RegisterClassW(&wc);
-        hwnd_ = ::CreateWindowExW(WS_EX_TOOLWINDOW, className, title, WS_POPUP | WS_VISIBLE, 0, 740, 200, 28, nullptr,
-                                  nullptr, wc.hInstance, nullptr);
+        hwnd_ = ::CreateWindowExW(WS_EX_TOOLWINDOW | WS_EX_TOPMOST, className, title, WS_POPUP | WS_VISIBLE, 0, 740, 200,
+                                  28, nullptr, nullptr, wc.hInstance, nullptr);
+        ::SetWindowPos(hwnd_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     }
     ~ShellLikeWindow() { ::DestroyWindow(hwnd_); }
     HWND hwnd() const { return hwnd_; }
