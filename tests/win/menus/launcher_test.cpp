@@ -39,8 +39,10 @@ protected:
 TEST_F(LauncherTest, AProgramStartsWithItsArgumentsInItsStartFolderEvenWithUnicodeNames) {
     std::string start = folder.File("Start \xC3\x9C\xCE\xA9"); // "Start ÜΩ"
     ASSERT_TRUE(::CreateDirectoryW(Win::Widen(start).c_str(), nullptr));
+    std::string omega = start + "\\\xCE\xA9mega.exe"; // "Ωmega.exe": a program of a Unicode name
+    ASSERT_TRUE(::CopyFileW(Win::Widen(SystemFile("cmd.exe")).c_str(), Win::Widen(omega).c_str(), FALSE));
     AnsweredMessageBoxes boxes(MessageBoxes::kOk);
-    Launcher::RunProgram(program, "Where", start, SystemFile("cmd.exe"), "/c cd > started.txt", 0);
+    Launcher::RunProgram(program, "Where", start, omega, "/c cd > started.txt", 0);
     EXPECT_TRUE(WaitForFile(start + "\\started.txt"));
     EXPECT_TRUE(boxes.requests.empty());
 }
