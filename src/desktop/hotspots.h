@@ -6,7 +6,7 @@
 #include "core/profile.h"
 #include "core/settings.h"
 #include "menus/menu_records.h"
-#include "menuwindow/cascade.h"
+#include "menuwindow/interaction/cascade.h"
 
 #include <cstdint>
 #include <optional>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/win/program.h"
-#include "menuwindow/geometry.h"
+#include "menuwindow/layout/geometry.h"
 
 #include <string_view>
 

@@ -3,7 +3,7 @@
 // a repaint never flickers.
 #pragma once
 
-#include "menuwindow/geometry.h"
+#include "menuwindow/layout/geometry.h"
 #include "win/handles.h"
 
 #include <windows.h>

@@ -1,7 +1,7 @@
 // Carries out a draw list on a device context.
 #pragma once
 
-#include "menuwindow/draw_list.h"
+#include "menuwindow/paint/draw_list.h"
 #include "menuwindow/win/menu_fonts.h"
 
 #include <windows.h>

@@ -1,7 +1,7 @@
 // Form2's window: its class, its procedure, and its life from creation to unloading.
 #include "menuwindow/win/form2.h"
 
-#include "menuwindow/menu_look.h"
+#include "menuwindow/look/menu_look.h"
 #include "menuwindow/win/menu_choices.h"
 #include "menuwindow/win/play_sound.h"
 #include "menuwindow/win/ripple_menu.h"

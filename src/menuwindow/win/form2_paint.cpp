@@ -2,11 +2,11 @@
 // moves, the scroll buttons, and copying the off-screen picture to the screen.
 #include "menuwindow/win/form2.h"
 
-#include "menuwindow/menu_position.h"
-#include "menuwindow/outline.h"
-#include "menuwindow/paint_button.h"
-#include "menuwindow/paint_menu.h"
-#include "menuwindow/pictures.h"
+#include "menuwindow/layout/menu_position.h"
+#include "menuwindow/layout/outline.h"
+#include "menuwindow/paint/paint_button.h"
+#include "menuwindow/paint/paint_menu.h"
+#include "menuwindow/look/pictures.h"
 #include "menuwindow/win/draw_list_renderer.h"
 #include "menuwindow/win/screen_area.h"
 #include "win/text_convert.h"

@@ -2,7 +2,7 @@
 // held until the window lets them go (DestroyIconHandles) or unloads.
 #pragma once
 
-#include "menuwindow/item_list.h"
+#include "menuwindow/layout/item_list.h"
 #include "win/handles.h"
 
 #include <windows.h>

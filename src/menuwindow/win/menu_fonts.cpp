@@ -1,6 +1,6 @@
 #include "menuwindow/win/menu_fonts.h"
 
-#include "menuwindow/text_runs.h"
+#include "menuwindow/layout/text_runs.h"
 #include "win/text_convert.h"
 
 #include <cwchar>

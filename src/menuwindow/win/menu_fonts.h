@@ -1,9 +1,9 @@
 // The GDI fonts of one menu window, and the measures of texts in them.
 #pragma once
 
-#include "menuwindow/draw_list.h"
-#include "menuwindow/font_spec.h"
-#include "menuwindow/menu_look.h"
+#include "menuwindow/paint/draw_list.h"
+#include "menuwindow/look/font_spec.h"
+#include "menuwindow/look/menu_look.h"
 #include "win/handles.h"
 
 #include <windows.h>

@@ -2,7 +2,7 @@
 // of each record, through which other windows and the hotspots call it.
 #pragma once
 
-#include "menuwindow/cascade.h"
+#include "menuwindow/interaction/cascade.h"
 
 #include <map>
 #include <memory>

@@ -3,7 +3,7 @@
 // reporting a failure.
 #pragma once
 
-#include "menuwindow/sounds.h"
+#include "menuwindow/look/sounds.h"
 
 #include <string_view>
 

@@ -4,7 +4,7 @@
 // longer than one frame.
 #pragma once
 
-#include "menuwindow/animation.h"
+#include "menuwindow/paint/animation.h"
 #include "menuwindow/win/back_buffer.h"
 
 #include <windows.h>

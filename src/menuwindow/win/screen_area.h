@@ -1,7 +1,7 @@
 // The screen as a menu window sees it: the work area of a monitor and its DPI.
 #pragma once
 
-#include "menuwindow/geometry.h"
+#include "menuwindow/layout/geometry.h"
 
 namespace MenuWindow {
 

@@ -1,6 +1,6 @@
 #include "menuwindow/win/theme_pictures.h"
 
-#include "menuwindow/pictures.h"
+#include "menuwindow/look/pictures.h"
 #include "menuwindow/win/gdiplus_session.h"
 #include "win/text_convert.h"
 

@@ -4,7 +4,7 @@
 // texture buffer that later paints copy from. A file that does not load is not drawn.
 #pragma once
 
-#include "menuwindow/draw_list.h"
+#include "menuwindow/paint/draw_list.h"
 #include "win/handles.h"
 
 #include <windows.h>

@@ -10,7 +10,7 @@
 #include "harness/screen.h"
 #include "harness/tarvex.h"
 #include "harness/windows.h"
-#include "menuwindow/gradient.h"
+#include "menuwindow/look/gradient.h"
 #include "win/text_convert.h"
 
 #include <gtest/gtest.h>

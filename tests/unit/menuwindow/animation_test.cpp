@@ -1,4 +1,4 @@
-#include "menuwindow/animation.h"
+#include "menuwindow/paint/animation.h"
 
 #include "print_helpers.h"
 

@@ -1,4 +1,4 @@
-#include "menuwindow/button_parts.h"
+#include "menuwindow/layout/button_parts.h"
 
 #include "print_helpers.h"
 

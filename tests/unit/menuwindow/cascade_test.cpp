@@ -1,4 +1,4 @@
-#include "menuwindow/cascade.h"
+#include "menuwindow/interaction/cascade.h"
 
 #include "print_helpers.h"
 

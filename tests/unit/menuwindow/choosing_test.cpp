@@ -1,4 +1,4 @@
-#include "menuwindow/choosing.h"
+#include "menuwindow/interaction/choosing.h"
 
 #include "menus/menu_records.h"
 

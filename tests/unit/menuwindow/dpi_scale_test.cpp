@@ -1,4 +1,4 @@
-#include "menuwindow/dpi_scale.h"
+#include "menuwindow/look/dpi_scale.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // button font and 8 in the title fonts; lines are 12 and 14 pixels high.
 #pragma once
 
-#include "menuwindow/draw_list.h"
+#include "menuwindow/paint/draw_list.h"
 
 #include <optional>
 #include <string_view>

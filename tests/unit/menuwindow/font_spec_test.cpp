@@ -1,5 +1,5 @@
 // The fonts themselves, their faces and the fallback to Arial are the Wine font tests'.
-#include "menuwindow/font_spec.h"
+#include "menuwindow/look/font_spec.h"
 
 #include <gtest/gtest.h>
 

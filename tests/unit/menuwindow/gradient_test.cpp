@@ -1,4 +1,4 @@
-#include "menuwindow/gradient.h"
+#include "menuwindow/look/gradient.h"
 
 #include "print_helpers.h"
 

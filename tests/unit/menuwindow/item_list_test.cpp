@@ -1,4 +1,4 @@
-#include "menuwindow/item_list.h"
+#include "menuwindow/layout/item_list.h"
 
 #include "fake_measure.h"
 #include "menus/data_manager.h"

@@ -1,6 +1,6 @@
-#include "menuwindow/menu_layout.h"
+#include "menuwindow/layout/menu_layout.h"
 
-#include "menuwindow/menu_shape.h"
+#include "menuwindow/layout/menu_shape.h"
 #include "print_helpers.h"
 
 #include <gtest/gtest.h>

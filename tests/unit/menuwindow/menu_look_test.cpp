@@ -1,4 +1,4 @@
-#include "menuwindow/menu_look.h"
+#include "menuwindow/look/menu_look.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "menuwindow/menu_position.h"
+#include "menuwindow/layout/menu_position.h"
 
 #include "print_helpers.h"
 #include "scene_support.h"

@@ -1,7 +1,7 @@
-#include "menuwindow/menu_scene.h"
+#include "menuwindow/layout/menu_scene.h"
 
-#include "menuwindow/paint_title_buttons.h"
-#include "menuwindow/title_buttons.h"
+#include "menuwindow/paint/paint_title_buttons.h"
+#include "menuwindow/layout/title_buttons.h"
 
 #include "print_helpers.h"
 #include "scene_support.h"

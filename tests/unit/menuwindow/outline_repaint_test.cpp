@@ -1,5 +1,5 @@
-#include "menuwindow/outline.h"
-#include "menuwindow/repaint.h"
+#include "menuwindow/layout/outline.h"
+#include "menuwindow/paint/repaint.h"
 
 #include "print_helpers.h"
 

@@ -1,10 +1,10 @@
 // What the draw lists hold beyond what the Wine paint tests and the end-to-end tests show:
 // the frame lines, the frame carried into the body, a title over the frame, and the few
 // button rules a picture would not make plain.
-#include "menuwindow/paint_menu.h"
+#include "menuwindow/paint/paint_menu.h"
 
-#include "menuwindow/paint_button.h"
-#include "menuwindow/paint_title.h"
+#include "menuwindow/paint/paint_button.h"
+#include "menuwindow/paint/paint_title.h"
 #include "print_helpers.h"
 #include "scene_support.h"
 

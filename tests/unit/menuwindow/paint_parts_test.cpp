@@ -1,4 +1,4 @@
-#include "menuwindow/paint_parts.h"
+#include "menuwindow/paint/paint_parts.h"
 
 #include "fake_measure.h"
 #include "print_helpers.h"

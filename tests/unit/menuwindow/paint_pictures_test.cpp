@@ -1,7 +1,7 @@
 // A theme that lacks a picture still shows a menu: the part's colour, the drawn arrow.
 // How found pictures look is the Wine picture tests' and the end-to-end tests'.
-#include "menuwindow/paint_button.h"
-#include "menuwindow/paint_menu.h"
+#include "menuwindow/paint/paint_button.h"
+#include "menuwindow/paint/paint_menu.h"
 
 #include "print_helpers.h"
 #include "scene_support.h"

@@ -1,5 +1,5 @@
-#include "menuwindow/pictures.h"
-#include "menuwindow/title_button_pictures.h"
+#include "menuwindow/look/pictures.h"
+#include "menuwindow/look/title_button_pictures.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "menuwindow/placement.h"
+#include "menuwindow/layout/placement.h"
 
 #include "print_helpers.h"
 

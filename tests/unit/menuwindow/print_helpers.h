@@ -1,7 +1,7 @@
 // Readable failure messages for the menu window's geometry.
 #pragma once
 
-#include "menuwindow/geometry.h"
+#include "menuwindow/layout/geometry.h"
 
 #include <ostream>
 

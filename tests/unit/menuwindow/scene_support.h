@@ -4,7 +4,7 @@
 
 #include "support/plain_menu_settings.h"
 #include "fake_measure.h"
-#include "menuwindow/menu_scene.h"
+#include "menuwindow/layout/menu_scene.h"
 
 #include <string>
 #include <vector>

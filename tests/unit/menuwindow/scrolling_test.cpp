@@ -1,4 +1,4 @@
-#include "menuwindow/scrolling.h"
+#include "menuwindow/layout/scrolling.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 // writes, and its folder has a picture for everything that its look draws with one.
 #include "core/settings.h"
 #include "core/text.h"
-#include "menuwindow/pictures.h"
-#include "menuwindow/title_button_pictures.h"
+#include "menuwindow/look/pictures.h"
+#include "menuwindow/look/title_button_pictures.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "menuwindow/sounds.h"
+#include "menuwindow/look/sounds.h"
 
 #include "core/settings.h"
 

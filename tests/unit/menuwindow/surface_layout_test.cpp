@@ -1,4 +1,4 @@
-#include "menuwindow/surface_layout.h"
+#include "menuwindow/layout/surface_layout.h"
 
 #include "print_helpers.h"
 

@@ -1,4 +1,4 @@
-#include "menuwindow/text_fit.h"
+#include "menuwindow/layout/text_fit.h"
 
 #include <gtest/gtest.h>
 

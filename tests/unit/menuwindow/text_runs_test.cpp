@@ -1,4 +1,4 @@
-#include "menuwindow/text_runs.h"
+#include "menuwindow/layout/text_runs.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "menuwindow/title_buttons.h"
+#include "menuwindow/layout/title_buttons.h"
 
 #include "print_helpers.h"
 

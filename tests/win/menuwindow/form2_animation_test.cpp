@@ -2,8 +2,8 @@
 // image, unclipped and opaque, and a switched-off animation shows no frame at all.
 #include "menu_window_fixture.h"
 
-#include "menuwindow/animation.h"
-#include "menuwindow/menu_scene.h"
+#include "menuwindow/paint/animation.h"
+#include "menuwindow/layout/menu_scene.h"
 
 #include <vector>
 

@@ -2,7 +2,7 @@
 // them, handed to a launcher that only records.
 #include "menu_window_fixture.h"
 
-#include "menuwindow/menu_scene.h"
+#include "menuwindow/layout/menu_scene.h"
 #include "menuwindow/win/menu_choices.h"
 
 using namespace MenuWindowTests;

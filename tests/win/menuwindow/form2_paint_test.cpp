@@ -3,9 +3,9 @@
 // inactive look, and the look a user meets before changing anything.
 #include "menu_window_fixture.h"
 
-#include "menuwindow/gradient.h"
-#include "menuwindow/menu_scene.h"
-#include "menuwindow/paint_title_buttons.h"
+#include "menuwindow/look/gradient.h"
+#include "menuwindow/layout/menu_scene.h"
+#include "menuwindow/paint/paint_title_buttons.h"
 
 using namespace MenuWindowTests;
 using MenuWindow::ItemInWindow;

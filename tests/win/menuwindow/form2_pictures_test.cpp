@@ -2,7 +2,7 @@
 // picture over the whole body, transparent buttons, a JPEG title, and the inactive
 // title-bar button picture falling back to the active one.
 #include "menu_window_fixture.h"
-#include "menuwindow/paint_title_buttons.h"
+#include "menuwindow/paint/paint_title_buttons.h"
 #include "menuwindow/win/gdiplus_session.h"
 #include "support/temp_folder.h"
 #include "support/test_pictures.h"

@@ -2,7 +2,7 @@
 // unloads.
 #include "menu_window_fixture.h"
 
-#include "menuwindow/menu_scene.h"
+#include "menuwindow/layout/menu_scene.h"
 
 using namespace MenuWindowTests;
 using MenuWindow::Rect;

@@ -1,6 +1,6 @@
 // The menu window's fonts: the faces, sizes and angles asked for, with "Arial" in place
 // of a face the system lacks.
-#include "menuwindow/menu_look.h"
+#include "menuwindow/look/menu_look.h"
 #include "menuwindow/win/menu_fonts.h"
 #include "win/handles.h"
 #include "win/text_convert.h"

@@ -4,8 +4,8 @@
 
 #include "core/settings.h"
 #include "menus/menu_records.h"
-#include "menuwindow/cascade.h"
-#include "menuwindow/geometry.h"
+#include "menuwindow/interaction/cascade.h"
+#include "menuwindow/layout/geometry.h"
 #include "menuwindow/win/form2.h"
 #include "menuwindow/win/open_menus.h"
 #include "support/plain_menu_settings.h"

@@ -1,0 +1,64 @@
+// A menu window's display list: where its entries come from, and what the layout and
+// the painting need to know of each entry.
+#pragma once
+
+#include "menus/display_entry.h"
+#include "menus/folder_listing.h"
+#include "menus/menu_records.h"
+#include "menuwindow/layout/button_parts.h"
+#include "menuwindow/paint/draw_list.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace MenuWindow {
+
+struct DisplayList {
+    std::vector<DisplayEntry> entries; // item i (1-based) is entries[i - 1]
+    int folderCount = 0;
+    int moreItem = 0; // the 1-based item of "More...", 0 when the listing was not cut
+    bool empty = false;
+
+    int Count() const { return static_cast<int>(entries.size()); }
+    const DisplayEntry& Item(int item) const { return entries[static_cast<std::size_t>(item - 1)]; }
+};
+
+// Where a window's entries come from, by its content kind (numbered like item types).
+enum class ListSource { MenuItems, Folder, TaskList, None };
+ListSource SourceOf(std::uint8_t kind);
+
+// The items of menu number menuNumber (1-based), in chain order; none for a number that
+// names no menu (0 included), which is how a window shows an empty menu.
+DisplayList MenuItemsList(const MenuTable& table, int menuNumber);
+
+DisplayList FolderList(FolderListing listing);
+
+// Items that open a sub-menu: folders, menus and the task list.
+bool OpensSubMenu(std::uint8_t type);
+
+// Whether an item has a hot key: the menu file writes "0" for none, and an empty value
+// is none too. The key "0" can therefore never be a hot key.
+bool HasHotkey(std::string_view hotkey);
+
+// The key shown after the command-key symbol: the item's HOTKEY, upper-cased.
+std::string HotkeyLabel(std::string_view hotkey);
+
+// The measures of every entry, in the button font.
+std::vector<ItemMeasure> MeasureItems(const DisplayList& list, const TextMeasure& measure);
+
+// Where an item's icon comes from: the file (and icon index) named by ICONPATH, written
+// "file" or "file,index"; else the shell's icon for the file or folder that PATH names.
+struct IconSource {
+    std::string file;
+    int index = 0;
+    bool shellIcon = false; // the shell's icon for the file, rather than one taken out of it
+    bool operator==(const IconSource&) const = default;
+};
+
+// None for an item that names no file: an internal command, a menu, the task list.
+std::optional<IconSource> IconSourceOf(const DisplayEntry& entry);
+
+} // namespace MenuWindow
