@@ -83,6 +83,12 @@ void WriteHotSpotKeys(const std::vector<HotspotRec>& hotSpots, ProfileWrites& wr
     }
 }
 
+ProfileWrites HotSpotPlaceWrites(std::size_t index, int left, int top) {
+    std::string stem = std::string(kPrefix) + SettingValues::IndexDigit(index);
+    return {{kSettingsSection, stem + "MenuTop", std::to_string(top)},
+            {kSettingsSection, stem + "MenuLeft", std::to_string(left)}};
+}
+
 bool HotSpotKeyReader::Read(std::string_view key, std::string_view value) {
     if (!Text::StartsWithIgnoreCase(key, kPrefix))
         return false;

@@ -14,6 +14,10 @@
 // Appends the keys of every hotspot, fields in record order, after the NoOfHotSpots write.
 void WriteHotSpotKeys(const std::vector<HotspotRec>& hotSpots, ProfileWrites& writes);
 
+// A hotspot's menu dropped in a new place: its top and left, in pixels, under
+// "HotSpot" + the index's last digit + "MenuTop" / "MenuLeft", so that it opens there next time.
+ProfileWrites HotSpotPlaceWrites(std::size_t index, int left, int top);
+
 // Gathers the hotspot keys of a section, entry by entry.
 class HotSpotKeyReader {
 public:

@@ -80,6 +80,32 @@ std::size_t Utf16Length(std::string_view utf8) {
     return units;
 }
 
+char32_t FirstCodePoint(std::string_view utf8) {
+    if (utf8.empty())
+        return 0;
+    auto byte = [&](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
+    unsigned char lead = byte(0);
+    int length = lead < 0x80 ? 1 : (lead & 0xE0) == 0xC0 ? 2 : (lead & 0xF0) == 0xE0 ? 3 : (lead & 0xF8) == 0xF0 ? 4 : 0;
+    if (length == 0 || utf8.size() < static_cast<std::size_t>(length))
+        return U'\uFFFD';
+    char32_t c = length == 1 ? lead : lead & (0x7F >> length);
+    for (int i = 1; i < length; ++i) {
+        if ((byte(static_cast<std::size_t>(i)) & 0xC0) != 0x80)
+            return U'\uFFFD';
+        c = (c << 6) | (byte(static_cast<std::size_t>(i)) & 0x3F);
+    }
+    return c;
+}
+
+char32_t FoldCase(char32_t c) {
+    if ((c >= U'a' && c <= U'z') || (c >= 0xE0 && c <= 0xFE && c != 0xF7) || (c >= 0x3B1 && c <= 0x3C9 && c != 0x3C2) ||
+        (c >= 0x430 && c <= 0x44F))
+        return c - 0x20;
+    if (c >= 0x450 && c <= 0x45F)
+        return c - 0x50;
+    return c;
+}
+
 std::string_view Trim(std::string_view s) {
     while (!s.empty() && s.front() == ' ')
         s.remove_prefix(1);

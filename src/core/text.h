@@ -18,6 +18,13 @@ bool StartsWithIgnoreCase(std::string_view s, std::string_view prefix);
 // The number of UTF-16 units the UTF-8 text takes, which is how Windows measures paths.
 std::size_t Utf16Length(std::string_view utf8);
 
+// The first character of a UTF-8 text; 0 for an empty text, U+FFFD for a broken sequence.
+char32_t FirstCodePoint(std::string_view utf8);
+
+// The upper-case form of a letter of the Latin-1, Greek and Cyrillic alphabets (the
+// scripts whose cases differ by a fixed offset); any other character as it is.
+char32_t FoldCase(char32_t c);
+
 // Removes leading and trailing spaces (not tabs), as the profile code expects.
 std::string_view Trim(std::string_view s);
 

@@ -1,6 +1,7 @@
 #include "desktop/hotspots.h"
 
 #include "core/text.h"
+#include "menus/data_manager.h"
 
 namespace Hotspots {
 
@@ -60,14 +61,6 @@ Action ActionOf(std::uint8_t type) {
     }
 }
 
-int MenuNumberByName(const MenuTable& menus, std::string_view name) {
-    for (int number = 1; number <= menus.MenuCount(); ++number) {
-        if (menus.menus[static_cast<std::size_t>(number)].NAME == name)
-            return number;
-    }
-    return 0;
-}
-
 void FillCascadeRecord(MenuWindow::CascadeRec& record, const HotspotRec& hotspot, int hotspotIndex,
                        const MenuTable& menus) {
     MenuWindow::CascadeRec filled;
@@ -77,7 +70,7 @@ void FillCascadeRecord(MenuWindow::CascadeRec& record, const HotspotRec& hotspot
     filled.hotspot = hotspotIndex;
     filled.openedByHotspot = true;
     filled.kind = MenuKindOf(hotspot.Type);
-    filled.menuNumber = hotspot.Type == kShowMenu ? MenuNumberByName(menus, hotspot.Menupath1) : 0;
+    filled.menuNumber = hotspot.Type == kShowMenu ? DataManager::MenuNumberByName(menus, hotspot.Menupath1) : 0;
     filled.position = {hotspot.Menuleft, hotspot.Menutop};
     filled.caption = hotspot.Menuname;
     filled.path = hotspot.Menupath1;

@@ -41,10 +41,6 @@ std::uint8_t MenuKindOf(std::uint8_t type);
 enum class Action { OpenMenu, RunProgram, RunCommand };
 Action ActionOf(std::uint8_t type);
 
-// The 1-based number of the first menu whose name is exactly name (case counts); 0 when
-// none is.
-int MenuNumberByName(const MenuTable& menus, std::string_view name);
-
 // Fills the cascade record of a menu that a hotspot opens, keeping its identifier: the
 // hotspot's index, the converted kind, for Show Menu the number of the menu it names,
 // its position (pixels), caption, targets, filter, group and switches; marked as opened

@@ -5,6 +5,14 @@
 
 namespace DataManager {
 
+int MenuNumberByName(const MenuTable& table, std::string_view name) {
+    for (int number = 1; number <= table.MenuCount(); ++number) {
+        if (table.menus[static_cast<std::size_t>(number)].NAME == name)
+            return number;
+    }
+    return 0;
+}
+
 namespace {
 
 using Chain = std::vector<std::int32_t>;

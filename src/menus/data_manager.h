@@ -7,8 +7,13 @@
 #include "menus/menu_records.h"
 
 #include <cstdint>
+#include <string_view>
 
 namespace DataManager {
+
+// The 1-based number of the first menu whose name is exactly name (case counts); 0 when
+// none is.
+int MenuNumberByName(const MenuTable& table, std::string_view name);
 
 // Empties the table and the pool down to their reserved slots.
 void Reset(MenuTable& table);

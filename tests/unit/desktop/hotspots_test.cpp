@@ -60,16 +60,6 @@ TEST(EnsureDefaultHotspot, ReplacesTheBlankRecordOfSettingsWithoutHotspotsButKee
     EXPECT_EQ(none, std::vector<HotspotRec>{DefaultHotspot(800, 600)});
 }
 
-TEST(MenuNumberByName, ExactCaseSensitiveFirstMatchFrom1) {
-    MenuTable menus = Menus({"Programs", "Tools", "programs", "Tools"});
-    EXPECT_EQ(MenuNumberByName(menus, "Programs"), 1);
-    EXPECT_EQ(MenuNumberByName(menus, "programs"), 3);
-    EXPECT_EQ(MenuNumberByName(menus, "Tools"), 2);
-    EXPECT_EQ(MenuNumberByName(menus, "TOOLS"), 0);
-    EXPECT_EQ(MenuNumberByName(menus, "Tool"), 0);
-    EXPECT_EQ(MenuNumberByName(menus, ""), 0) << "the unused slot 0 is never a menu";
-}
-
 TEST(FillCascadeRecord, CopiesTheHotspotKeepingTheRecordsIdentifier) {
     MenuTable menus = Menus({"Programs", "Tools"});
     HotspotRec hotspot = ShowMenu("Tools");

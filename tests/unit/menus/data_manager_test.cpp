@@ -131,3 +131,15 @@ TEST(DataManager, AnswersLikeThePlainScanThroughRandomEditing) {
         RunRandomEditing(trial, 600);
     }
 }
+
+TEST(MenuNumberByName, ExactCaseSensitiveFirstMatchFrom1) {
+    MenuTable menus;
+    for (const char* name : {"Programs", "Tools", "programs", "Tools"})
+        menus.menus.emplace_back().NAME = name;
+    EXPECT_EQ(MenuNumberByName(menus, "Programs"), 1);
+    EXPECT_EQ(MenuNumberByName(menus, "programs"), 3);
+    EXPECT_EQ(MenuNumberByName(menus, "Tools"), 2);
+    EXPECT_EQ(MenuNumberByName(menus, "TOOLS"), 0);
+    EXPECT_EQ(MenuNumberByName(menus, "Tool"), 0);
+    EXPECT_EQ(MenuNumberByName(menus, ""), 0) << "the unused slot 0 is never a menu";
+}

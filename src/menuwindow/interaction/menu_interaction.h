@@ -1,0 +1,146 @@
+// What a menu window does with the mouse, the keyboard and its timers. The shell turns
+// each message into one call here and carries out the Effects it gets back: the
+// selection to draw, the timers to start or stop, the capture, a scroll, and at most
+// one action (a sub-menu to open or close, an item to choose, this menu to close).
+#pragma once
+
+#include "menuwindow/interaction/choosing.h"
+#include "menuwindow/layout/menu_scene.h"
+#include "menuwindow/paint/repaint.h"
+
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace MenuWindow {
+
+enum class MenuTimer { Scroll, DropDown, DoubleClick, FlashSelBar, SetForeground };
+
+inline constexpr int kDoubleClickInterval = 500; // a folder's second click opens the folder itself
+inline constexpr int kFlashInterval = 40;
+inline constexpr int kFlashTicks = 5;
+inline constexpr int kScrollPause = 250; // after the first step, as a held key pauses before repeating
+inline constexpr int kSetForegroundInterval = 500;
+
+struct TimerOrder {
+    MenuTimer timer = MenuTimer::Scroll;
+    int interval = 0; // milliseconds; 0 stops the timer
+    bool operator==(const TimerOrder&) const = default;
+};
+
+enum class Capture { Keep, Take, Release };
+
+enum class MenuAction {
+    None,
+    ShowProperties, // the shell's properties of the item's file or folder
+    OpenSubMenu,    // the item's sub-menu, in place of any other open one
+    CloseSubMenu,   // the sub-menu this window has open
+    Choose,         // start what the item names
+    CloseMenu,      // this menu (and those below it), by the keyboard
+};
+
+struct Effects {
+    Capture capture = Capture::Keep;
+    std::vector<TimerOrder> timers;
+    std::optional<int> first;            // scroll to this first visible offset, then repaint the buttons
+    std::optional<SelectionState> bar;   // the item now drawn with the selection bar, and its press
+    std::optional<std::pair<int, ButtonState>> flash; // one button drawn so for a flash of the bar
+    MenuAction action = MenuAction::None;
+    int item = 0;          // the item of the action
+    bool ctrlHeld = false; // Choose: the menus stay open
+    bool closeSubMenuFirst = false; // Choose: the sub-menu of another item goes first
+    bool operator==(const Effects&) const = default;
+};
+
+struct Modifiers {
+    bool shift = false;
+    bool ctrl = false;
+    bool alt = false;
+    bool Any() const { return shift || ctrl || alt; }
+};
+
+enum class Key { Up, Down, Home, End, Enter, Right, Left, Escape, Other };
+
+// The state a menu window keeps between events. Items are 1-based, 0 for none.
+struct InteractionState {
+    int selected = 0;          // the item the keyboard moves from
+    SelectionState bar;        // the item drawn with the selection bar (or pressed)
+    int openSubMenu = 0;       // the item whose sub-menu is open from this window
+    int subMenuJustOpened = 0; // a first click opened this item's sub-menu a moment ago
+    bool pressed = false;      // a press on an item, until its release
+    MouseButton lastButton = MouseButton::Left;
+    Modifiers lastModifiers;
+    Point lastPoint;
+    bool scrollingTowardsEnd = false;
+    bool scrollingTowardsStart = false;
+    int scrollTicks = 0;
+    int hovered = 0;
+    int timed = 0; // the item the drop-down delay runs for
+    bool delayElapsed = false;
+    bool discardMove = false; // a sub-menu closed by the keyboard: the next move keeps the selection
+    int flashCount = 0;
+};
+
+class MenuInteraction {
+public:
+    const InteractionState& state() const { return state_; }
+
+    // A press of the left or the right button on the window at a point (window
+    // coordinates): it selects and presses the item there; a press on a scroll button
+    // starts scrolling unless MenuAutoScroll scrolls on hovering alone.
+    Effects Press(const MenuScene& scene, MouseButton button, Modifiers modifiers, Point point);
+    // The release after a press: chooses, opens or closes by the release rules.
+    Effects Release(const MenuScene& scene, MouseButton button, Modifiers modifiers, Point point);
+    // A move of the mouse over the window, or seen through the capture.
+    Effects Move(const MenuScene& scene, Point point);
+
+    // The drop-down delay ran out; cursor is where the cursor stands in this window's
+    // coordinates, or nothing when it is over another window.
+    Effects DropDownTick(const MenuScene& scene, std::optional<Point> cursor);
+    Effects DoubleClickTick();
+    Effects FlashTick();
+    // One step of automatic scrolling; cursor as for DropDownTick.
+    Effects ScrollTick(const MenuScene& scene, std::optional<Point> cursor);
+
+    // A key pressed in this window; character is what the key types (0 for none), used
+    // by the first-letter search. level is the window's level in the cascade.
+    Effects KeyDown(const MenuScene& scene, Key key, char32_t character, Modifiers modifiers, int level);
+    // A key let go: Ctrl with an item's hot key chooses that item.
+    Effects KeyUp(const MenuScene& scene, char32_t character, Modifiers modifiers);
+
+    // This window's sub-menu for an item opened; the sub-menu closed (unloaded, closed by
+    // the keyboard or torn off): the item is redrawn in the state the selection gives it.
+    void SubMenuOpened(int item);
+    Effects SubMenuClosed();
+    // A sub-menu closed by the keyboard hands the keyboard back: the next move is ignored,
+    // so that the selection stays where the keyboard left it.
+    void DiscardNextMove() { state_.discardMove = true; }
+    // Everything that runs stops: the window is going, or is being rebuilt.
+    Effects StopAll();
+    // After a choice, the chosen item is drawn without the bar.
+    Effects ClearBar();
+
+private:
+    Effects PressItem(const MenuScene& scene, int item, MouseButton button, Modifiers modifiers);
+    Effects ReleaseItem(const MenuScene& scene, int item, MouseButton button, Modifiers modifiers);
+    Effects SelectByKeyboard(const MenuScene& scene, int item);
+    Effects StartScrolling(const MenuScene& scene, bool towardsEnd);
+    void StopScrolling(Effects& effects);
+
+    InteractionState state_;
+};
+
+// The next item up or down from an item, wrapping round; from none, Up gives the last
+// and Down the first. 0 in an empty menu.
+int StepUp(int item, int count);
+int StepDown(int item, int count);
+
+// First-letter search: from the item after the selected one to the last, then from the
+// first, the first item whose label starts with the character (letters compared
+// without regard to case); 0 when none does.
+int SearchByLetter(const DisplayList& list, int selected, char32_t character);
+
+// The first item whose hot key is the character, without regard to case; 0 for none.
+int ItemByHotkey(const DisplayList& list, char32_t character);
+
+} // namespace MenuWindow
