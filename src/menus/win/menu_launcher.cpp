@@ -1,6 +1,9 @@
 #include "menus/win/menu_launcher.h"
 
+#include "core/hotspot_keys.h"
+#include "core/program_values.h"
 #include "core/win/form1.h"
+#include "core/win/ini_handler.h"
 #include "menus/win/launcher.h"
 #include "win/text_convert.h"
 
@@ -27,4 +30,17 @@ void MenuLauncher::ShowProperties(const std::string& path) {
     info.lpFile = file.c_str();
     info.nShow = SW_SHOWNORMAL;
     ::ShellExecuteExW(&info);
+}
+
+// The settings in memory and the settings file both take the place, so that the next
+// opening and the next start agree; the file's other keys stay as they are.
+void MenuLauncher::StoreHotspotPlace(int hotspot, int left, int top) {
+    Program& program = form1_.program();
+    if (hotspot < 0 || static_cast<std::size_t>(hotspot) >= program.settings.HotSpots.size())
+        return;
+    HotspotRec& record = program.settings.HotSpots[static_cast<std::size_t>(hotspot)];
+    record.Menuleft = static_cast<std::int16_t>(left);
+    record.Menutop = static_cast<std::int16_t>(top);
+    IniHandler::WriteAll(SettingsFile(program.values),
+                         HotSpotPlaceWrites(static_cast<std::size_t>(hotspot), record.Menuleft, record.Menutop));
 }

@@ -14,6 +14,7 @@ public:
     std::int16_t RunCommand(const std::string& value) override;
     void RunProgram(const DisplayEntry& entry) override;
     void ShowProperties(const std::string& path) override;
+    void StoreHotspotPlace(int hotspot, int left, int top) override;
 
 private:
     Form1& form1_;

@@ -39,6 +39,29 @@ int CascadeList::FreeId() const {
     return id;
 }
 
+int CascadeList::SubMenuOf(int id) const {
+    auto found = std::find_if(records_.begin(), records_.end(), [id](const CascadeRec& r) { return r.parentId == id; });
+    return id == 0 || found == records_.end() ? 0 : found->id;
+}
+
+std::vector<int> CascadeList::WithSubMenus(int id) const {
+    std::vector<int> ids;
+    if (IndexOf(id) == 0)
+        return ids;
+    ids.push_back(id);
+    auto listed = [&ids](int wanted) { return std::find(ids.begin(), ids.end(), wanted) != ids.end(); };
+    for (bool grew = true; grew;) {
+        grew = false;
+        for (const CascadeRec& record : records_) {
+            if (record.parentId != 0 && listed(record.parentId) && !listed(record.id)) {
+                ids.push_back(record.id);
+                grew = true;
+            }
+        }
+    }
+    return ids;
+}
+
 namespace {
 
 // The last name of a folder path, without the backslash it ends in.

@@ -74,6 +74,12 @@ public:
     // The smallest identifier from 1 up that no record holds.
     int FreeId() const;
 
+    // The identifier of the sub-menu that a menu has open; 0 when it has none.
+    int SubMenuOf(int id) const;
+
+    // A menu and every menu opened below it, in the order they opened.
+    std::vector<int> WithSubMenus(int id) const;
+
 private:
     std::vector<CascadeRec> records_;
 };

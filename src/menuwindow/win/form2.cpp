@@ -14,12 +14,14 @@ namespace {
 // Posted to a menu window to close the whole cascade once the message that chose an
 // item is over: the windows go with their objects, which must not be in use then.
 constexpr UINT kCloseCascadeMessage = WM_APP + 1;
-constexpr UINT_PTR kSetForegroundTimer = 5;
-constexpr UINT kSetForegroundInterval = 500;
 
 MenuWindow::Point PointOf(LPARAM lParam) {
     return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
 }
+
+constexpr MenuWindow::MenuTimer kTimers[] = {MenuWindow::MenuTimer::Scroll, MenuWindow::MenuTimer::DropDown,
+                                             MenuWindow::MenuTimer::DoubleClick, MenuWindow::MenuTimer::FlashSelBar,
+                                             MenuWindow::MenuTimer::SetForeground};
 
 } // namespace
 
@@ -76,6 +78,11 @@ void Form2::Animate(const MenuWindow::AnimationPlan& plan) {
 }
 
 // A hotspot's menu plays the hotspot's sound; the hotspot index is -1 for a sub-menu.
+void Form2::PlayEventSound(MenuWindow::SoundEvent event) {
+    MenuWindow::SoundConditions conditions{MenuWindow::WaveDeviceAvailable(), settings_.GenSoundsOn, programFolder_};
+    MenuWindow::PlaySoundFile(MenuWindow::EventSoundFile(settings_.SoundFx, event), conditions);
+}
+
 void Form2::PlayOpenMenuSound() {
     const MenuWindow::CascadeRec& record = Record();
     std::string_view hotspotSound;
@@ -84,7 +91,7 @@ void Form2::PlayOpenMenuSound() {
         hotspotSound = settings_.HotSpots[static_cast<std::size_t>(record.hotspot)].SoundPath;
     std::string_view menuSound;
     if (record.kind == kItemMenuName && record.menuNumber >= 1 && record.menuNumber <= menus_.MenuCount())
-        menuSound = menus_.menus[static_cast<std::size_t>(record.menuNumber - 1)].SOUNDPATH;
+        menuSound = menus_.menus[static_cast<std::size_t>(record.menuNumber)].SOUNDPATH;
     MenuWindow::SoundConditions conditions{MenuWindow::WaveDeviceAvailable(), settings_.GenSoundsOn, programFolder_};
     MenuWindow::PlaySoundFile(MenuWindow::OpenMenuSoundFile(settings_.SoundFx, hotspotSound, menuSound), conditions);
 }
@@ -97,22 +104,56 @@ MenuWindow::CascadeRec& Form2::Record() {
     return *openMenus_.records().Find(id_);
 }
 
+UINT_PTR Form2::TimerId(MenuWindow::MenuTimer timer) {
+    return static_cast<UINT_PTR>(timer) + 1;
+}
+
+// A sub-menu tells its parent it went, unless the whole cascade is going.
 void Form2::Form_Unload() {
-    if (window_)
-        ::KillTimer(window_.get(), kSetForegroundTimer);
+    if (window_) {
+        for (MenuWindow::MenuTimer timer : kTimers)
+            ::KillTimer(window_.get(), TimerId(timer));
+        if (::GetCapture() == window_.get())
+            ::ReleaseCapture();
+    }
     DestroyIconHandles();
+    if (Form2* parent = Parent(); parent && !openMenus_.ClosingAll())
+        parent->NotifySubMenuClosed();
+}
+
+Form2* Form2::Parent() const {
+    const MenuWindow::CascadeRec* record = openMenus_.records().Find(id_);
+    return record && record->level > 1 ? openMenus_.WindowOf(record->parentId) : nullptr;
+}
+
+std::optional<MenuWindow::Point> Form2::CursorInWindow() const {
+    POINT cursor{};
+    if (!::GetCursorPos(&cursor) || ::WindowFromPoint(cursor) != window_.get())
+        return std::nullopt;
+    ::ScreenToClient(window_.get(), &cursor);
+    return MenuWindow::Point{cursor.x, cursor.y};
+}
+
+void Form2::Form_Timer(UINT_PTR timer) {
+    using MenuWindow::MenuTimer;
+    if (timer == TimerId(MenuTimer::Scroll))
+        Apply(interaction_.ScrollTick(scene_, CursorInWindow()));
+    else if (timer == TimerId(MenuTimer::DropDown))
+        Apply(interaction_.DropDownTick(scene_, CursorInWindow()));
+    else if (timer == TimerId(MenuTimer::DoubleClick))
+        Apply(interaction_.DoubleClickTick());
+    else if (timer == TimerId(MenuTimer::FlashSelBar))
+        Apply(interaction_.FlashTick());
+    else if (timer == TimerId(MenuTimer::SetForeground))
+        tmrSetForeground_Timer();
 }
 
 void Form2::CloseCascade() {
     ::PostMessageW(window_.get(), kCloseCascadeMessage, 0, 0);
 }
 
-void Form2::StartSetForegroundTimer() {
-    ::SetTimer(window_.get(), kSetForegroundTimer, kSetForegroundInterval, nullptr);
-}
-
 void Form2::tmrSetForeground_Timer() {
-    ::KillTimer(window_.get(), kSetForegroundTimer);
+    ::KillTimer(window_.get(), TimerId(MenuWindow::MenuTimer::SetForeground));
     if (openMenus_.choices)
         openMenus_.choices->ActivateTaskWindow(window_.get());
 }
@@ -130,20 +171,32 @@ LRESULT Form2::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPar
         Form_PrintClient(reinterpret_cast<HDC>(wParam));
         return 0;
     case WM_LBUTTONDOWN:
-        Picture2_MouseDown(MenuWindow::MouseButton::Left, PointOf(lParam));
+        Form_MouseDown(MenuWindow::MouseButton::Left, wParam, PointOf(lParam));
         return 0;
     case WM_RBUTTONDOWN:
-        Picture2_MouseDown(MenuWindow::MouseButton::Right, PointOf(lParam));
+        Form_MouseDown(MenuWindow::MouseButton::Right, wParam, PointOf(lParam));
+        return 0;
+    case WM_MOUSEMOVE:
+        Form_MouseMove(PointOf(lParam));
         return 0;
     case WM_LBUTTONUP:
-        Picture2_MouseUp(MenuWindow::MouseButton::Left, wParam, PointOf(lParam));
+        Form_MouseUp(MenuWindow::MouseButton::Left, wParam, PointOf(lParam));
         return 0;
     case WM_RBUTTONUP:
-        Picture2_MouseUp(MenuWindow::MouseButton::Right, wParam, PointOf(lParam));
+        Form_MouseUp(MenuWindow::MouseButton::Right, wParam, PointOf(lParam));
+        return 0;
+    case WM_CAPTURECHANGED:
+        if (dragging_)
+            EndDrag();
+        return 0;
+    case WM_KEYDOWN:
+        Form_KeyDown(wParam);
+        return 0;
+    case WM_KEYUP:
+        Form_KeyUp(wParam);
         return 0;
     case WM_TIMER:
-        if (wParam == kSetForegroundTimer)
-            tmrSetForeground_Timer();
+        Form_Timer(wParam);
         return 0;
     case kCloseCascadeMessage:
         openMenus_.CloseAll(); // this object is gone afterwards

@@ -9,6 +9,9 @@
 #include "menuwindow/paint/animation.h"
 #include "menuwindow/interaction/cascade.h"
 #include "menuwindow/interaction/choosing.h"
+#include "menuwindow/interaction/menu_interaction.h"
+#include "menuwindow/layout/title_buttons.h"
+#include "menuwindow/look/sounds.h"
 #include "menuwindow/look/menu_look.h"
 #include "menuwindow/layout/menu_scene.h"
 #include "menuwindow/paint/repaint.h"
@@ -23,6 +26,7 @@
 #include <windows.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -71,10 +75,22 @@ public:
     // Rolled up, only the title bar shows.
     void SetRolledUp(bool rolledUp);
 
+    // Opens the sub-menu of an item beside it, in place of any other this window has open.
+    void OpenNewMenu(int item);
+    // Closes the sub-menu this window has open, and every menu below it.
+    void CloseSubMenu();
+    // Called by this window's sub-menu when it goes (closed, or torn off).
+    void NotifySubMenuClosed();
+    // Called by this window's sub-menu when the keyboard closes it: the keyboard comes
+    // back here with the selection where it was.
+    void NotifyDiscardMouseMove();
+
     HWND hwnd() const { return window_.get(); }
     int id() const { return id_; }
     const MenuWindow::MenuScene& scene() const { return scene_; }
     const MenuWindow::SelectionState& selection() const { return selection_; }
+    const MenuWindow::InteractionState& interaction() const { return interaction_.state(); }
+    bool RolledUp() const { return rolledUp_; }
     // How many buttons were painted one by one since the window was made (a full paint
     // does not count); it shows that a change of selection repaints only what changed.
     int ButtonsDrawn() const { return buttonsDrawn_; }
@@ -87,19 +103,42 @@ private:
     LRESULT HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
     void Picture2_Paint();
-    void Picture2_MouseDown(MenuWindow::MouseButton button, MenuWindow::Point point);
-    void Picture2_MouseUp(MenuWindow::MouseButton button, WPARAM keys, MenuWindow::Point point);
+    void Form_MouseDown(MenuWindow::MouseButton button, WPARAM keys, MenuWindow::Point point);
+    void Form_MouseMove(MenuWindow::Point point);
+    void Form_MouseUp(MenuWindow::MouseButton button, WPARAM keys, MenuWindow::Point point);
+    // The shift keys held now; a mouse message carries Shift and Ctrl as they were.
+    static MenuWindow::Modifiers HeldModifiers();
+    static MenuWindow::Modifiers HeldModifiers(WPARAM mouseKeys);
+    void Form_KeyDown(WPARAM key);
+    void Form_KeyUp(WPARAM key);
+    void Form_Timer(UINT_PTR timer);
+    void picbutton_MouseDown(MenuWindow::TitleButton button);
+    void picbutton_MouseUp(MenuWindow::Point point);
+    void DrawTitleButton(MenuWindow::TitleButton button, bool pressed);
+    void BeginDrag();
+    void DragTo();
+    void EndDrag();
+    void TearOffFromParent();
+    // Carries out what the interaction answered; the action comes last, since it may
+    // close this window.
+    void Apply(const MenuWindow::Effects& effects);
     void Choose(int item, bool ctrlHeld);
-    void CloseCascade();
-    void StartSetForegroundTimer();
     void tmrSetForeground_Timer();
+    static UINT_PTR TimerId(MenuWindow::MenuTimer timer);
+    void CloseByKeyboard();
+    void CloseCascade();
+    void PlayEventSound(MenuWindow::SoundEvent event);
     void Form_PrintClient(HDC dc);
     void Form_Unload();
     void PlayOpenMenuSound();
     void Animate(const MenuWindow::AnimationPlan& plan);
+    std::optional<MenuWindow::Point> CursorInWindow() const;
+    Form2* Parent() const;
 
     MenuWindow::CascadeRec& Record();
     MenuWindow::DisplayList BuildItemList();
+    // Lays out, places and paints the window around a display list.
+    void Rebuild(MenuWindow::DisplayList list);
     void Place();
     void PaintSurface();
     void ApplyOutline();
@@ -119,7 +158,11 @@ private:
     MenuWindow::BackBuffer picture_;
     MenuWindow::SelectionState selection_;
     std::vector<MenuWindow::ButtonState> drawn_; // the state each item was last painted in, by item
-    MenuWindow::MouseButton lastButton_ = MenuWindow::MouseButton::Left;
+    MenuWindow::MenuInteraction interaction_;
+    std::optional<MenuWindow::TitleButton> pressedTitleButton_;
+    bool dragging_ = false;
+    POINT dragCursor_{};           // where the cursor pressed the title bar, on the screen
+    MenuWindow::Point dragWindow_; // where the window stood then
     bool inactive_ = false;
     bool rolledUp_ = false;
     int buttonsDrawn_ = 0;

@@ -1,59 +1,95 @@
-// Form2 and the mouse: a press on an item selects and presses it, and a release on the
-// same item chooses it.
+// Form2 and the mouse: presses, moves and releases go to the title-bar buttons, to the
+// drag by the title bar, or to the interaction of the button surface; what the
+// interaction answers is carried out here.
 #include "menuwindow/win/form2.h"
 
+#include "menuwindow/interaction/title_bar.h"
 #include "menuwindow/win/menu_choices.h"
 
 using namespace MenuWindow;
 
-namespace {
-
-int ItemAt(const MenuScene& scene, Point point) {
-    Hit hit = HitInWindow(scene, point);
-    return hit.kind == Hit::Kind::Item ? hit.item : 0;
-}
-
-} // namespace
-
-// The mouse is held for the surface until the release, so that a release outside the
-// menu is seen too.
-void Form2::Picture2_MouseDown(MouseButton button, Point point) {
-    int item = ItemAt(scene_, point);
-    if (item == 0)
+void Form2::Form_MouseDown(MouseButton button, WPARAM keys, Point point) {
+    if (button == MouseButton::Left) {
+        if (std::optional<TitleButton> titleButton = TitleButtonAt(scene_, point)) {
+            picbutton_MouseDown(*titleButton);
+            return;
+        }
+        if (DragsMenu(scene_, point)) {
+            BeginDrag();
+            return;
+        }
+    }
+    if (!scene_.layout.surface.Contains(point))
         return;
-    lastButton_ = button;
+    // The surface holds the mouse until the release, so that a release outside is seen.
     ::SetCapture(window_.get());
-    SetSelection({item, true});
+    Apply(interaction_.Press(scene_, button, HeldModifiers(keys), point));
 }
 
-void Form2::Picture2_MouseUp(MouseButton button, WPARAM keys, Point point) {
-    ::ReleaseCapture();
-    int pressed = selection_.pressed ? selection_.selected : 0;
-    if (pressed)
-        SetSelection({pressed, false});
-    Release release;
-    release.button = button;
-    release.pressedItem = button == lastButton_ ? pressed : 0;
-    release.releasedItem = ItemAt(scene_, point);
-    if (release.releasedItem)
-        release.type = scene_.list.Item(release.releasedItem).TYPE;
-    release.toggleSubMenus = look_.MenuToggleSubMenus;
-    release.emptyList = scene_.list.empty;
-    switch (DecideRelease(release)) {
-    case ReleaseAction::Nothing:
-        SetSelection({});
+void Form2::Form_MouseMove(Point point) {
+    if (dragging_) {
+        DragTo();
+        return;
+    }
+    if (pressedTitleButton_)
+        return;
+    Apply(interaction_.Move(scene_, point));
+}
+
+void Form2::Form_MouseUp(MouseButton button, WPARAM keys, Point point) {
+    if (dragging_) {
+        EndDrag();
+        return;
+    }
+    if (pressedTitleButton_) {
+        picbutton_MouseUp(point);
+        return;
+    }
+    Apply(interaction_.Release(scene_, button, HeldModifiers(keys), point));
+}
+
+void Form2::Apply(const Effects& effects) {
+    HWND hwnd = window_.get();
+    if (effects.first) {
+        ScrollTo(scene_, *effects.first);
+        Record().firstVisible = scene_.view().first;
+        PaintSurface();
+    }
+    if (effects.bar)
+        SetSelection(*effects.bar);
+    if (effects.flash)
+        DrawButton(effects.flash->first, effects.flash->second);
+    for (const TimerOrder& order : effects.timers) {
+        if (order.interval > 0)
+            ::SetTimer(hwnd, TimerId(order.timer), static_cast<UINT>(order.interval), nullptr);
+        else
+            ::KillTimer(hwnd, TimerId(order.timer));
+    }
+    if (effects.capture == Capture::Take && ::GetCapture() != hwnd)
+        ::SetCapture(hwnd);
+    else if (effects.capture == Capture::Release && ::GetCapture() == hwnd)
+        ::ReleaseCapture();
+
+    switch (effects.action) {
+    case MenuAction::None:
         break;
-    case ReleaseAction::ShowProperties:
+    case MenuAction::ShowProperties:
         if (openMenus_.choices)
-            openMenus_.choices->ShowProperties(scene_.list.Item(release.releasedItem).PATH);
+            openMenus_.choices->ShowProperties(scene_.list.Item(effects.item).PATH);
         break;
-    case ReleaseAction::Choose:
-        Choose(release.releasedItem, (keys & MK_CONTROL) != 0);
+    case MenuAction::OpenSubMenu:
+        OpenNewMenu(effects.item);
         break;
-    // Sub-menus open with the interaction of menus; until then their items choose nothing.
-    case ReleaseAction::OpenSubMenu:
-    case ReleaseAction::CloseSubMenu:
-    case ReleaseAction::KeepSubMenu:
+    case MenuAction::CloseSubMenu:
+        CloseSubMenu();
+        break;
+    case MenuAction::Choose:
+        if (effects.closeSubMenuFirst)
+            CloseSubMenu();
+        Choose(effects.item, effects.ctrlHeld);
+        break;
+    case MenuAction::CloseMenu:
+        CloseByKeyboard();
         break;
     }
 }
@@ -84,9 +120,9 @@ void Form2::Choose(int item, bool ctrlHeld) {
         return;
     AfterChoice after = AfterChoosing(commandResult, ctrlHeld);
     if (after.bringForward)
-        StartSetForegroundTimer();
+        ::SetTimer(window_.get(), TimerId(MenuTimer::SetForeground), kSetForegroundInterval, nullptr);
     if (after.clearSelection)
-        SetSelection({});
+        Apply(interaction_.ClearBar());
     if (after.closeCascade)
         CloseCascade();
 }

@@ -14,13 +14,18 @@
 using namespace MenuWindow;
 
 void Form2::PaintMenu() {
+    icons_.Clear();
+    Rebuild(BuildItemList());
+}
+
+void Form2::Rebuild(DisplayList list) {
     CascadeRec& record = Record();
     int dpi = ScreenDpi();
     Rect workArea = WorkAreaAt(OpeningPoint(record));
     fonts_.Build(look_, dpi);
     SceneRequest request;
     request.look = look_;
-    request.list = BuildItemList();
+    request.list = std::move(list);
     request.title = MenuTitle(record, menus_);
     request.horizontal = record.horizontal;
     request.inactive = inactive_;
@@ -109,9 +114,12 @@ void Form2::MakeButtonVisible(int item) {
     SetSelection({item, false});
 }
 
+// The same items in the other look: the list is not taken again.
 void Form2::SetInactive(bool inactive) {
+    if (inactive == inactive_)
+        return;
     inactive_ = inactive;
-    PaintMenu();
+    Rebuild(scene_.list);
 }
 
 void Form2::SetRolledUp(bool rolledUp) {

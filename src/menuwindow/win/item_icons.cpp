@@ -43,6 +43,8 @@ Win::UniqueIcon LoadItemIcon(const IconSource& source, int size) {
 }
 
 void ItemIcons::Reset(int count, int size) {
+    if (static_cast<std::size_t>(std::max(0, count)) == icons_.size() && size == size_)
+        return;
     icons_.clear();
     icons_.resize(static_cast<std::size_t>(std::max(0, count)));
     size_ = size;

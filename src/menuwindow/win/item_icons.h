@@ -18,7 +18,8 @@ Win::UniqueIcon LoadItemIcon(const IconSource& source, int size);
 
 class ItemIcons {
 public:
-    // Forgets every icon and makes room for a list of count items at the size.
+    // Makes room for a list of count items at the size; the icons held stay when neither
+    // changed (the same list repainted), and go otherwise.
     void Reset(int count, int size);
 
     // The icon of an item (1-based), taken on the first call; null when it has none.

@@ -19,4 +19,6 @@ public:
     virtual void RunProgram(const DisplayEntry& entry) = 0;
     // The shell's properties of a file or folder.
     virtual void ShowProperties(const std::string& path) = 0;
+    // A hotspot's menu was dragged to a new place: the hotspot opens it there from now on.
+    virtual void StoreHotspotPlace(int hotspot, int left, int top) = 0;
 };

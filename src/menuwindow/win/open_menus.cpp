@@ -37,6 +37,25 @@ void OpenMenus::Close(int index) {
 }
 
 void OpenMenus::CloseAll() {
+    closingAll_ = true;
     while (records_.Count() > 0)
         Close(records_.Count());
+    closingAll_ = false;
+}
+
+void OpenMenus::CloseWithSubMenus(int id) {
+    std::vector<int> ids = records_.WithSubMenus(id);
+    for (auto it = ids.rbegin(); it != ids.rend(); ++it)
+        Close(records_.IndexOf(*it));
+}
+
+void OpenMenus::Renumber(int id, int freshId) {
+    MenuWindow::CascadeRec* record = records_.Find(id);
+    if (!record || records_.IndexOf(freshId) != 0)
+        return;
+    record->id = freshId;
+    if (auto found = windows_.find(id); found != windows_.end()) {
+        windows_[freshId] = std::move(found->second);
+        windows_.erase(found);
+    }
 }

@@ -34,6 +34,12 @@ public:
     // records move down one place.
     void Close(int index);
     void CloseAll();
+    // Closes a menu and every menu below it, the deepest first.
+    void CloseWithSubMenus(int id);
+    // A torn-off menu's window goes on under its fresh identifier.
+    void Renumber(int id, int freshId);
+    // While the whole cascade closes, no window needs to hear that its sub-menu went.
+    bool ClosingAll() const { return closingAll_; }
 
     // ForceOnTop of the hotspot that opened the latest menu: its window is kept topmost.
     bool forceOnTop = false;
@@ -43,4 +49,5 @@ public:
 private:
     MenuWindow::CascadeList records_;
     std::map<int, std::unique_ptr<Form2>> windows_;
+    bool closingAll_ = false;
 };

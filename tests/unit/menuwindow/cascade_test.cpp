@@ -63,3 +63,15 @@ TEST(FolderRequestOf, AHotspotsMenuListsOneFolder) {
     record.path2 = "notepad.exe";
     EXPECT_EQ(FolderRequestOf(record).secondFolder, "");
 }
+
+TEST(CascadeList, AMenuClosesWithEveryMenuBelowIt) {
+    CascadeList list;
+    for (int parent : {0, 1, 2, 0, 4, 3}) // ids 1..6: 1 -> 2 -> 3 -> 6, and 4 -> 5
+        list.At(list.Append()).parentId = parent;
+    EXPECT_EQ(list.WithSubMenus(2), (std::vector<int>{2, 3, 6}));
+    EXPECT_EQ(list.WithSubMenus(4), (std::vector<int>{4, 5}));
+    EXPECT_EQ(list.WithSubMenus(9), std::vector<int>{});
+    EXPECT_EQ(list.SubMenuOf(1), 2);
+    EXPECT_EQ(list.SubMenuOf(6), 0);
+    EXPECT_EQ(list.SubMenuOf(0), 0) << "0 is no menu, though hotspot menus name it as their parent";
+}

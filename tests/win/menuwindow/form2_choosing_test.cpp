@@ -21,6 +21,9 @@ public:
     }
     void RunProgram(const DisplayEntry& entry) override { calls.push_back("program " + entry.PATH); }
     void ShowProperties(const std::string& path) override { calls.push_back("properties " + path); }
+    void StoreHotspotPlace(int hotspot, int left, int top) override {
+        calls.push_back("place " + std::to_string(hotspot) + " " + std::to_string(left) + "," + std::to_string(top));
+    }
 
     std::vector<std::string> calls;
     std::int16_t commandResult = -1;
@@ -92,9 +95,47 @@ TEST_F(Form2Choosing, CtrlKeepsTheMenusOpenAndSoDoTheExitAndThePreferences) {
     EXPECT_EQ(openMenus.Count(), 0);
 }
 
-TEST_F(Form2Choosing, TheRightButtonShowsAFilesPropertiesAndSubMenuItemsChooseNothing) {
+TEST_F(Form2Choosing, TheRightButtonShowsAFilesPropertiesAndAMenuItemOpensItsMenuBeside) {
     Click(1, PointOf(1), 0, WM_RBUTTONDOWN, WM_RBUTTONUP);
-    Click(3, PointOf(3));
     EXPECT_EQ(choices.calls, std::vector<std::string>{"properties notepad.exe"});
+    Click(3, PointOf(3));
+    ASSERT_EQ(openMenus.Count(), 2);
+    const MenuWindow::CascadeRec& sub = openMenus.records().At(2);
+    EXPECT_EQ(sub.parentId, form->id());
+    EXPECT_EQ(sub.level, 2);
+    EXPECT_EQ(sub.parentItem, 3);
+    EXPECT_EQ(sub.menuNumber, 0) << "no menu is named Tools: an empty one opens";
+    EXPECT_EQ(form->interaction().openSubMenu, 3);
+    RECT parent{}, beside{};
+    ::GetWindowRect(hwnd, &parent);
+    ::GetWindowRect(openMenus.WindowOf(sub.id)->hwnd(), &beside);
+    EXPECT_EQ(beside.left, parent.right) << "to the right of its parent";
+
+    ::SendMessageW(openMenus.WindowOf(sub.id)->hwnd(), WM_KEYDOWN, VK_ESCAPE, 0);
     EXPECT_EQ(openMenus.Count(), 1);
+    EXPECT_EQ(form->interaction().openSubMenu, 0) << "the parent heard that its sub-menu went";
+    EXPECT_EQ(form->selection().selected, 3) << "and keeps its selection for the keyboard";
+    EXPECT_EQ(choices.calls.size(), 1u);
+}
+
+TEST_F(Form2Choosing, AMenuThatOpensItselfOpensANewWindowEachTime) {
+    int loop = AddMenu("Loop", {"Again"});
+    ItemOf(loop, 0).TYPE = kItemMenuName;
+    ItemOf(loop, 0).PATH = "Loop";
+    openMenus.CloseAll();
+    form = Open(MenuRecord(loop));
+    ASSERT_TRUE(form);
+    for (int level = 1; level <= 3; ++level) {
+        Form2* deepest = openMenus.WindowOf(openMenus.records().At(level).id);
+        hwnd = deepest->hwnd();
+        form = deepest;
+        Click(1, PointOf(1));
+        ASSERT_EQ(openMenus.Count(), level + 1);
+    }
+    std::vector<int> levels;
+    for (int index = 1; index <= openMenus.Count(); ++index)
+        levels.push_back(openMenus.records().At(index).level);
+    EXPECT_EQ(levels, (std::vector<int>{1, 2, 3, 4}));
+    openMenus.CloseWithSubMenus(openMenus.records().At(2).id);
+    EXPECT_EQ(openMenus.Count(), 1) << "a sub-menu closes with every menu below it";
 }

@@ -107,7 +107,7 @@ TEST_F(MenuWindowTest, TheInactiveLookIsUsedOnlyWhenItsSwitchIsOn) {
 
     settings.TitleShowInactive = true;
     form->SetLocalVariables();
-    form->SetInactive(true);
+    form->PaintMenu();
     EXPECT_EQ(WindowPicture(form->hwnd()).At(1, 1), 0x00406080u);
     form->SetInactive(false);
     EXPECT_EQ(WindowPicture(form->hwnd()).At(1, 1), kTitleColour);

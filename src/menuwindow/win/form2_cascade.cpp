@@ -1,0 +1,55 @@
+// Form2 in its cascade: opening a sub-menu beside an item, closing it, and hearing from
+// it when it goes.
+#include "menuwindow/win/form2.h"
+
+#include "menuwindow/interaction/sub_menu.h"
+
+using namespace MenuWindow;
+
+// The new window may serve the queue while it animates, and this one may close then.
+void Form2::OpenNewMenu(int item) {
+    CloseSubMenu();
+    CascadeRec record = SubMenuRecord(Record(), scene_, item, menus_);
+    int index = openMenus_.Append();
+    record.id = openMenus_.records().At(index).id;
+    int childId = record.id;
+    openMenus_.records().At(index) = std::move(record);
+    openMenus_.Attach(index,
+                      std::make_unique<Form2>(settings_, menus_, programFolder_, openMenus_, childId));
+    Form2* child = openMenus_.WindowOf(childId);
+    if (!child || !child->Create()) {
+        openMenus_.Close(openMenus_.records().IndexOf(childId));
+        return;
+    }
+    interaction_.SubMenuOpened(item);
+    SetInactive(true);
+    child->Show();
+}
+
+void Form2::CloseSubMenu() {
+    if (int child = openMenus_.records().SubMenuOf(id_))
+        openMenus_.CloseWithSubMenus(child); // tells this window through NotifySubMenuClosed
+}
+
+void Form2::NotifySubMenuClosed() {
+    Effects closed = interaction_.SubMenuClosed();
+    SetInactive(false);
+    if (closed.item != 0)
+        ForceRedrawButton(closed.item);
+}
+
+void Form2::NotifyDiscardMouseMove() {
+    interaction_.DiscardNextMove();
+}
+
+// The keyboard goes back to the parent, which keeps its selection.
+void Form2::CloseByKeyboard() {
+    PlayEventSound(SoundEvent::CloseMenu);
+    Form2* parent = Parent();
+    HWND parentWindow = parent ? parent->hwnd() : nullptr;
+    if (parent)
+        parent->NotifyDiscardMouseMove();
+    openMenus_.CloseWithSubMenus(id_); // this object is gone afterwards
+    if (parentWindow)
+        ::SetForegroundWindow(parentWindow);
+}
