@@ -46,6 +46,7 @@ struct CascadeRec {
     bool onMouse = false;
     std::optional<SubMenuAnchor> anchor; // a sub-menu: the button that opened it
     bool horizontal = false;
+    bool rotated = false; // turned by its rotate button, away from the way it opened
 
     // Where it stands once placed, and the side it opened to (left of or above its parent).
     Rect bounds;

@@ -15,6 +15,10 @@ PartLook LookIn(const MenuScene& scene, Part part) {
 MenuScene BuildScene(SceneRequest request, const TextMeasure& measure) {
     MenuScene scene;
     scene.look = std::move(request.look);
+    if (request.rotated) {
+        scene.look.HorzNoTitlebar = false;
+        scene.look.HorzButtonsOnly = false;
+    }
     scene.list = std::move(request.list);
     scene.title = std::move(request.title);
     scene.horizontal = request.horizontal;

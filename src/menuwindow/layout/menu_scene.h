@@ -18,6 +18,9 @@ struct SceneRequest {
     std::string title;
     bool horizontal = false;
     bool inactive = false; // a parent menu whose sub-menu is open
+    // Turned by its rotate button: it keeps a title bar, with the button to turn it back,
+    // whatever HorzNoTitlebar and HorzButtonsOnly say of menus that open horizontal.
+    bool rotated = false;
     int dpi = 96;
     Rect workArea;                     // the screen's room for the menu
     int first = 0;                     // the first visible offset wanted

@@ -115,8 +115,9 @@ private:
     void picbutton_MouseDown(MenuWindow::TitleButton button);
     void picbutton_MouseUp(MenuWindow::Point point);
     void DrawTitleButton(MenuWindow::TitleButton button, bool pressed);
-    void BeginDrag();
-    void DragTo();
+    POINT OnScreen(MenuWindow::Point point) const;
+    void BeginDrag(MenuWindow::Point point);
+    void DragTo(MenuWindow::Point point);
     void EndDrag();
     void TearOffFromParent();
     // Carries out what the interaction answered; the action comes last, since it may

@@ -26,9 +26,19 @@ void Form2::OpenNewMenu(int item) {
     child->Show();
 }
 
+// When the keyboard was down there, it comes back here rather than to no menu at all.
 void Form2::CloseSubMenu() {
-    if (int child = openMenus_.records().SubMenuOf(id_))
-        openMenus_.CloseWithSubMenus(child); // tells this window through NotifySubMenuClosed
+    int child = openMenus_.records().SubMenuOf(id_);
+    if (child == 0)
+        return;
+    HWND foreground = ::GetForegroundWindow();
+    bool hadKeyboard = false;
+    for (int id : openMenus_.records().WithSubMenus(child))
+        if (Form2* window = openMenus_.WindowOf(id); window && window->hwnd() == foreground)
+            hadKeyboard = true;
+    openMenus_.CloseWithSubMenus(child); // tells this window through NotifySubMenuClosed
+    if (hadKeyboard)
+        ::SetForegroundWindow(window_.get());
 }
 
 void Form2::NotifySubMenuClosed() {

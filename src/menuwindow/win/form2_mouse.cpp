@@ -15,7 +15,7 @@ void Form2::Form_MouseDown(MouseButton button, WPARAM keys, Point point) {
             return;
         }
         if (DragsMenu(scene_, point)) {
-            BeginDrag();
+            BeginDrag(point);
             return;
         }
     }
@@ -28,7 +28,7 @@ void Form2::Form_MouseDown(MouseButton button, WPARAM keys, Point point) {
 
 void Form2::Form_MouseMove(Point point) {
     if (dragging_) {
-        DragTo();
+        DragTo(point);
         return;
     }
     if (pressedTitleButton_)

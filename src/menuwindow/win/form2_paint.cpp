@@ -28,6 +28,7 @@ void Form2::Rebuild(DisplayList list) {
     request.list = std::move(list);
     request.title = MenuTitle(record, menus_);
     request.horizontal = record.horizontal;
+    request.rotated = record.rotated;
     request.inactive = inactive_;
     request.dpi = dpi;
     request.workArea = workArea;

@@ -46,6 +46,7 @@ void Form2::picbutton_MouseUp(Point point) {
         CloseSubMenu();
         Apply(interaction_.StopAll());
         Record().horizontal = !Record().horizontal;
+        Record().rotated = !Record().rotated;
         PaintMenu();
         return;
     case TitleButton::RollUp:
@@ -62,18 +63,26 @@ void Form2::picbutton_MouseUp(Point point) {
     }
 }
 
-void Form2::BeginDrag() {
+// A mouse message's point on the screen: the press and each move are taken where they
+// happened, however late they are handled.
+POINT Form2::OnScreen(Point point) const {
+    POINT screen{point.x, point.y};
+    ::ClientToScreen(window_.get(), &screen);
+    return screen;
+}
+
+void Form2::BeginDrag(Point point) {
     CloseSubMenu();
     dragging_ = true;
-    ::GetCursorPos(&dragCursor_);
-    const Rect& bounds = Record().bounds;
-    dragWindow_ = {bounds.left, bounds.top};
+    dragCursor_ = OnScreen(point);
+    RECT window{};
+    ::GetWindowRect(window_.get(), &window);
+    dragWindow_ = {window.left, window.top};
     ::SetCapture(window_.get());
 }
 
-void Form2::DragTo() {
-    POINT cursor{};
-    ::GetCursorPos(&cursor);
+void Form2::DragTo(Point point) {
+    POINT cursor = OnScreen(point);
     ::SetWindowPos(window_.get(), nullptr, dragWindow_.x + cursor.x - dragCursor_.x,
                    dragWindow_.y + cursor.y - dragCursor_.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }

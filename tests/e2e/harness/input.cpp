@@ -56,6 +56,29 @@ void ClickDuringCapture(int x, int y) {
     SendMouse(x, y, MOUSEEVENTF_LEFTUP);
 }
 
+bool QuickClicks(int x, int y) {
+    if (!Click(x, y))
+        return false;
+    Settle(60ms);
+    ClickDuringCapture(x, y);
+    return true;
+}
+
+bool Drag(int fromX, int fromY, int toX, int toY) {
+    if (!MoveMouse(fromX, fromY))
+        return false;
+    SendMouse(fromX, fromY, MOUSEEVENTF_LEFTDOWN);
+    Settle(50ms);
+    constexpr int kSteps = 5;
+    for (int step = 1; step < kSteps; ++step) {
+        SendMouse(fromX + (toX - fromX) * step / kSteps, fromY + (toY - fromY) * step / kSteps, 0);
+        Settle(30ms);
+    }
+    bool arrived = MoveMouse(toX, toY);
+    SendMouse(toX, toY, MOUSEEVENTF_LEFTUP);
+    return arrived;
+}
+
 bool ClickWindow(HWND hwnd) {
     RECT rect{};
     ::GetWindowRect(hwnd, &rect);

@@ -13,6 +13,10 @@ bool Click(int x, int y);
 // program tracks the mouse, Wine keeps the cursor where it is against moves from
 // another process, but the menu still sees where the click is.
 void ClickDuringCapture(int x, int y);
+// Two clicks at a point in quick succession, well within a double-click time.
+bool QuickClicks(int x, int y);
+// Presses the left button at one point, moves to another in steps and lets go there.
+bool Drag(int fromX, int fromY, int toX, int toY);
 // Clicks the middle of a window.
 bool ClickWindow(HWND hwnd);
 // Presses and releases one key.

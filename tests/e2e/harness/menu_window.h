@@ -14,4 +14,13 @@ inline constexpr const char* kMenuClass = "Tarvex2Menu";
 // opening animation; its rectangle is the one it stands at then.
 std::optional<WindowInfo> WaitForMenuWindow(DWORD processId, Duration timeout = 30s);
 
+// The visible menu windows of the process.
+std::vector<WindowInfo> VisibleMenuWindows(DWORD processId);
+
+// Waits until the process shows exactly count menu windows, each painted and steady.
+bool WaitForMenuCount(DWORD processId, std::size_t count, Duration timeout = 20s);
+
+// The visible menu window with a title; none when there is no such window.
+std::optional<WindowInfo> MenuWindowTitled(DWORD processId, const std::string& title);
+
 } // namespace E2e

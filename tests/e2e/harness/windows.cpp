@@ -54,7 +54,7 @@ std::vector<WindowInfo> TopLevelWindows(const std::string& className, DWORD proc
     std::vector<WindowInfo> found;
     for (HWND hwnd : all) {
         WindowInfo info = DescribeWindow(hwnd);
-        if (info.className == className && (processId == 0 || info.processId == processId))
+        if ((className.empty() || info.className == className) && (processId == 0 || info.processId == processId))
             found.push_back(info);
     }
     return found;

@@ -23,7 +23,8 @@ struct WindowInfo {
 
 WindowInfo DescribeWindow(HWND hwnd);
 
-// Top-level windows of a class; with a process id, only that process's.
+// Top-level windows of a class (of any class when it is empty); with a process id, only
+// that process's.
 std::vector<WindowInfo> TopLevelWindows(const std::string& className, DWORD processId = 0);
 
 // The first visible top-level window of a class (and process), waiting for it to appear.

@@ -32,6 +32,20 @@ TEST(BuildScene, TheTitleBarButtonsLeaveTheWholeTitleRoom) {
     EXPECT_EQ(room.Width(), 8 * kTitleCharWidth) << "no \"...\" for a title the menu was widened for";
 }
 
+TEST(BuildScene, AMenuTurnedByItsRotateButtonKeepsItsTitleBarToTurnBack) {
+    MenuLook look = PlainLook();
+    look.HorzButtonsOnly = true;
+    SceneRequest request;
+    request.look = look;
+    request.list = Items({"A", "B"});
+    request.title = "Tools";
+    request.horizontal = true;
+    request.workArea = {0, 0, 1024, 768};
+    EXPECT_TRUE(BuildScene(request, FakeMeasure{}).layout.title.Empty()) << "opened across: buttons only";
+    request.rotated = true;
+    EXPECT_FALSE(BuildScene(request, FakeMeasure{}).layout.title.Empty());
+}
+
 TEST(ScrollTo, KeepsTheOffsetWithinRange) {
     std::vector<std::string> labels(30, "Item");
     MenuScene scene = Scene(PlainLook(), Items(labels), "T", {0, 0, 1024, 224});
