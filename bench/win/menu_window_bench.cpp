@@ -1,12 +1,14 @@
 // Times the menu window under Wine or Windows: opening a 40-item menu (display list,
-// measuring, layout, placement, painting and showing it) and repainting the buttons
-// of a change of selection, next to filling the same window area once with one solid
-// brush, which is the floor any painting of that area stands on.
+// measuring, layout, placement, painting and showing it), repainting the buttons of a
+// change of selection, and the mouse sweeping down the whole menu with the bar
+// following it, next to filling the same window area once with one solid brush, which
+// is the floor any painting of that area stands on.
 //     menu_window_bench.exe [--rounds N]
 #include "core/settings.h"
 #include "core/win/system_values.h"
 #include "menus/data_manager.h"
 #include "menus/menu_records.h"
+#include "menuwindow/layout/menu_scene.h"
 #include "menuwindow/win/form2.h"
 #include "menuwindow/win/open_menus.h"
 #include "win/handles.h"
@@ -81,6 +83,7 @@ SettingsRec BenchSettings() {
     settings.TitleGradient = true;
     settings.TitleColor = 0x00602000;
     settings.TitleColor2 = 0x00F0B060;
+    settings.SelBarFollowMouse = true;
     return settings;
 }
 
@@ -153,6 +156,25 @@ int main(int argc, char** argv) {
         ::UpdateWindow(form->hwnd());
     });
     double drawnPerChange = static_cast<double>(form->ButtonsDrawn() - drawnBefore) / rounds;
+
+    // Two moves over each button, near its top and across its middle: the second finds
+    // the bar already there and paints nothing.
+    std::vector<LPARAM> sweep;
+    for (int item = 1; item <= shown; ++item) {
+        MenuWindow::Rect button = MenuWindow::ItemInWindow(form->scene(), item);
+        int x = (button.left + button.right) / 2;
+        sweep.push_back(MAKELPARAM(x, button.top + 1));
+        sweep.push_back(MAKELPARAM(x, (button.top + button.bottom) / 2));
+    }
+    drawnBefore = form->ButtonsDrawn();
+    Figures hover = Time(rounds, [&] {
+        for (LPARAM point : sweep) {
+            ::SendMessageW(form->hwnd(), WM_MOUSEMOVE, 0, point);
+            ::UpdateWindow(form->hwnd());
+        }
+    });
+    auto moves = static_cast<double>(sweep.size());
+    double drawnPerMove = static_cast<double>(form->ButtonsDrawn() - drawnBefore) / (rounds * moves);
     Figures fillWindow = Time(rounds, [&] {
         Win::WindowDc windowDc(form->hwnd());
         RECT all{0, 0, window.width, window.height};
@@ -180,6 +202,8 @@ int main(int argc, char** argv) {
                 repaint.median);
     std::printf("  change of selection: %.1f buttons repainted, shown                 %9.1f / %9.1f us\n",
                 drawnPerChange, select.best, select.median);
+    std::printf("  mouse sweep, per move: %.2f buttons repainted, shown                %9.1f / %9.1f us\n",
+                drawnPerMove, hover.best / moves, hover.median / moves);
     std::printf("  one solid fill of the window's area, off screen                    %9.1f / %9.1f us\n", fill.best,
                 fill.median);
     std::printf("  one solid fill of the window's area, on the window                 %9.1f / %9.1f us\n",

@@ -19,13 +19,20 @@ std::vector<WindowInfo> VisibleMenuWindows(DWORD processId) {
     return shown;
 }
 
+// A window counted a moment ago may be one that is on its way out (a sub-menu replaced
+// by another): the count and the steady images are taken together, again until they agree.
 bool WaitForMenuCount(DWORD processId, std::size_t count, Duration timeout) {
-    if (!WaitUntil([&] { return VisibleMenuWindows(processId).size() == count; }, timeout))
-        return false;
-    for (const WindowInfo& window : VisibleMenuWindows(processId))
-        if (!WaitForSteadyImage(window.hwnd))
-            return false;
-    return true;
+    return WaitUntil(
+        [&] {
+            std::vector<WindowInfo> shown = VisibleMenuWindows(processId);
+            if (shown.size() != count)
+                return false;
+            for (const WindowInfo& window : shown)
+                if (!WaitForSteadyImage(window.hwnd, 2s))
+                    return false;
+            return VisibleMenuWindows(processId).size() == count;
+        },
+        timeout);
 }
 
 std::optional<WindowInfo> MenuWindowTitled(DWORD processId, const std::string& title) {

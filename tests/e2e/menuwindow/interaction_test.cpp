@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <random>
 #include <string>
 #include <vector>
@@ -236,6 +237,52 @@ TEST_F(MenuInteraction, OneClickListsAFolderAndTwoQuickClicksOpenItInTheShell) {
         << "no shell window shows the folder";
     if (shellWindow)
         ::PostMessageW(shellWindow, WM_CLOSE, 0, 0);
+}
+
+TEST_F(MenuInteraction, MorePagesALongFolderOnInASubMenu) {
+    TempFolder files;
+    for (const char* name : {"a.txt", "b.txt", "c.txt", "d.txt", "e.txt"})
+        files.WriteBytes(name, "x");
+    std::string name = files.path().substr(files.path().find_last_of('\\') + 1);
+    ASSERT_NO_FATAL_FAILURE(Open({{"Programs", {Item("Files", 2, files.path())}}}, SelectionBar("MenuMaxNoItems=3\n")));
+    ASSERT_TRUE(ClickItem(main, 1));
+    ASSERT_TRUE(MenusShown(2));
+    HWND first = MenuTitled(name);
+    ASSERT_TRUE(first);
+    ASSERT_TRUE(ClickItem(first, 1)) << "More... on top, then a.txt and b.txt";
+    ASSERT_TRUE(MenusShown(3));
+    std::vector<WindowInfo> pages;
+    for (const WindowInfo& window : VisibleMenuWindows(tarvex.processId()))
+        if (window.title == name && window.hwnd != first)
+            pages.push_back(window);
+    ASSERT_EQ(pages.size(), 1u) << "the next page shares the folder's name";
+    EXPECT_EQ(pages[0].rect.bottom - pages[0].rect.top, kPlainTitleHeight + 3 * kPlainButtonHeight)
+        << "c.txt, d.txt and e.txt";
+}
+
+TEST_F(MenuInteraction, AFolderThatIsGoneListsAsEmptyAndAFileThatWentSaysSo) {
+    auto files = std::make_unique<TempFolder>();
+    files->WriteBytes("note.txt", "x");
+    std::string path = files->path();
+    std::string file = files->File("note.txt");
+    ASSERT_NO_FATAL_FAILURE(Open({{"Programs", {Item("Files", 2, path), Item("Gone", 2, path + "\\nothing here")}}}));
+    ASSERT_TRUE(ClickItem(main, 2));
+    ASSERT_TRUE(MenusShown(2));
+    HWND gone = MenuTitled("nothing here");
+    ASSERT_TRUE(gone);
+    RECT r = RectOf(gone);
+    EXPECT_EQ(r.bottom - r.top, kPlainTitleHeight + kPlainButtonHeight) << "one entry: (Empty)";
+    ASSERT_TRUE(ClickItem(main, 1));
+    ASSERT_TRUE(MenusShown(2));
+    HWND listing = MenuTitled(path.substr(path.find_last_of('\\') + 1));
+    ASSERT_TRUE(listing);
+    files.reset(); // the folder goes while its listing is open
+    ASSERT_TRUE(ClickItem(listing, 1));
+    std::optional<WindowInfo> box = WaitForVisibleWindow("#32770", tarvex.processId(), 20s);
+    ASSERT_TRUE(box) << "no message for the file that went";
+    EXPECT_EQ(box->title, "Tarvex - Error running note.txt");
+    ::PostMessageW(box->hwnd, WM_CLOSE, 0, 0);
+    EXPECT_TRUE(tarvex.running());
 }
 
 TEST_F(MenuInteraction, DraggingAHotspotMenuMovesItAndItsPlaceIsStored) {
