@@ -18,6 +18,12 @@ std::string ScreenshotFolder() {
     return Win::Narrow(std::wstring_view(current, n)) + "\\e2e-screenshots";
 }
 
+bool SaveNamedScreenshot(const std::string& name) {
+    std::string folder = ScreenshotFolder();
+    ::CreateDirectoryW(Win::Widen(folder).c_str(), nullptr);
+    return SaveScreenshot(folder + "\\" + name + ".bmp");
+}
+
 void FailureScreenshots::OnTestPartResult(const ::testing::TestPartResult& result) {
     if (!result.failed() || taken_)
         return;
@@ -25,10 +31,9 @@ void FailureScreenshots::OnTestPartResult(const ::testing::TestPartResult& resul
     const ::testing::TestInfo* test = ::testing::UnitTest::GetInstance()->current_test_info();
     if (!test)
         return;
-    std::string folder = ScreenshotFolder();
-    ::CreateDirectoryW(Win::Widen(folder).c_str(), nullptr);
-    std::string path = folder + "\\" + test->test_suite_name() + "." + test->name() + ".bmp";
-    if (SaveScreenshot(path))
+    std::string name = std::string(test->test_suite_name()) + "." + test->name();
+    std::string path = ScreenshotFolder() + "\\" + name + ".bmp";
+    if (SaveNamedScreenshot(name))
         std::fprintf(stderr, "screenshot of the failure: %s\n", path.c_str());
     else
         std::fprintf(stderr, "the screenshot of the failure could not be saved as %s\n", path.c_str());

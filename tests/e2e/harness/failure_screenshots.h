@@ -12,6 +12,9 @@ namespace E2e {
 // "e2e-screenshots" in the current directory, which for ctest is the tests' build folder.
 std::string ScreenshotFolder();
 
+// Saves the screen as "<name>.bmp" in the screenshot folder; false when it could not.
+bool SaveNamedScreenshot(const std::string& name);
+
 class FailureScreenshots : public ::testing::EmptyTestEventListener {
 public:
     void OnTestStart(const ::testing::TestInfo&) override { taken_ = false; }

@@ -107,9 +107,7 @@ TEST(AuroraTheme, TheShippedThemePaintsAStartUpMenuWithItsPictures) {
     ASSERT_TRUE(tarvex.Start(folder));
     std::optional<WindowInfo> menu = WaitForMenuWindow(tarvex.processId());
     ASSERT_TRUE(menu) << "no menu window opened at start";
-    std::string screenshots = ScreenshotFolder();
-    ::CreateDirectoryW(Win::Widen(screenshots).c_str(), nullptr);
-    EXPECT_TRUE(SaveScreenshot(screenshots + "\\menuwindow-aurora.bmp"));
+    EXPECT_TRUE(SaveNamedScreenshot("menuwindow-aurora"));
 
     // The title picture is stretched over the bar: its middle, between the name at the left
     // and the buttons at the right, shows the picture's middle.

@@ -110,9 +110,7 @@ protected:
     }
 
     void Screenshot(const std::string& name) {
-        std::string screenshots = ScreenshotFolder();
-        ::CreateDirectoryW(Win::Widen(screenshots).c_str(), nullptr);
-        EXPECT_TRUE(SaveScreenshot(screenshots + "\\menuwindow-" + name + ".bmp"));
+        EXPECT_TRUE(SaveNamedScreenshot("menuwindow-" + name));
     }
 
     ProgramFolder folder;

@@ -114,9 +114,7 @@ protected:
         std::optional<WindowInfo> menu = WaitForMenuWindow(tarvex_.processId());
         if (!menu)
             return std::nullopt;
-        std::string screenshots = ScreenshotFolder();
-        ::CreateDirectoryW(Win::Widen(screenshots).c_str(), nullptr);
-        EXPECT_TRUE(SaveScreenshot(screenshots + "\\menuwindow-" + screenshot + ".bmp"));
+        EXPECT_TRUE(SaveNamedScreenshot("menuwindow-" + screenshot));
         return menu;
     }
 

@@ -16,9 +16,7 @@ namespace {
 using namespace E2e;
 
 void Screenshot(const std::string& name) {
-    std::string screenshots = ScreenshotFolder();
-    ::CreateDirectoryW(Win::Widen(screenshots).c_str(), nullptr);
-    EXPECT_TRUE(SaveScreenshot(screenshots + "\\menuwindow-" + name + ".bmp"));
+    EXPECT_TRUE(SaveNamedScreenshot("menuwindow-" + name));
 }
 
 } // namespace

@@ -63,9 +63,7 @@ protected:
 
     // Saves the screen as "menuwindow-<name>.bmp" in the screenshot folder.
     void Screenshot(const std::string& name) {
-        std::string screenshots = ScreenshotFolder();
-        ::CreateDirectoryW(Win::Widen(screenshots).c_str(), nullptr);
-        EXPECT_TRUE(SaveScreenshot(screenshots + "\\menuwindow-" + name + ".bmp"));
+        EXPECT_TRUE(SaveNamedScreenshot("menuwindow-" + name));
     }
 
     ProgramFolder folder_;
