@@ -342,7 +342,7 @@ Effects MenuInteraction::ScrollTick(const MenuScene& scene, std::optional<Point>
     return effects;
 }
 
-Effects MenuInteraction::SelectByKeyboard(const MenuScene& scene, int item) {
+Effects MenuInteraction::MakeButtonVisible(const MenuScene& scene, int item) {
     Effects effects;
     if (item < 1 || item > scene.list.Count())
         return effects;
@@ -362,13 +362,13 @@ Effects MenuInteraction::KeyDown(const MenuScene& scene, Key key, char32_t chara
     int selected = state_.selected >= 1 && state_.selected <= count ? state_.selected : 0;
     switch (key) {
     case Key::Up:
-        return SelectByKeyboard(scene, StepUp(selected, count));
+        return MakeButtonVisible(scene, StepUp(selected, count));
     case Key::Down:
-        return SelectByKeyboard(scene, StepDown(selected, count));
+        return MakeButtonVisible(scene, StepDown(selected, count));
     case Key::Home:
-        return SelectByKeyboard(scene, count > 0 ? 1 : 0);
+        return MakeButtonVisible(scene, count > 0 ? 1 : 0);
     case Key::End:
-        return SelectByKeyboard(scene, count);
+        return MakeButtonVisible(scene, count);
     case Key::Enter:
     case Key::Right: {
         if (selected == 0)
@@ -395,7 +395,7 @@ Effects MenuInteraction::KeyDown(const MenuScene& scene, Key key, char32_t chara
     case Key::Other:
         break;
     }
-    return SelectByKeyboard(scene, SearchByLetter(scene.list, selected, character));
+    return MakeButtonVisible(scene, SearchByLetter(scene.list, selected, character));
 }
 
 // Hot keys work when MenuHotKeys is anything but 0. The choice closes the menus as a
@@ -406,7 +406,7 @@ Effects MenuInteraction::KeyUp(const MenuScene& scene, char32_t character, Modif
     int item = ItemByHotkey(scene.list, character);
     if (item == 0)
         return {};
-    Effects effects = SelectByKeyboard(scene, item);
+    Effects effects = MakeButtonVisible(scene, item);
     Merge(effects, PressItem(scene, item, MouseButton::Left, {}));
     state_.pressed = false;
     state_.bar.pressed = false;

@@ -119,11 +119,13 @@ public:
     Effects StopAll();
     // After a choice, the chosen item is drawn without the bar.
     Effects ClearBar();
+    // Selects an item with the bar, scrolling a long menu to show it first. Every
+    // selection the keyboard makes goes through here.
+    Effects MakeButtonVisible(const MenuScene& scene, int item);
 
 private:
     Effects PressItem(const MenuScene& scene, int item, MouseButton button, Modifiers modifiers);
     Effects ReleaseItem(const MenuScene& scene, int item, MouseButton button, Modifiers modifiers);
-    Effects SelectByKeyboard(const MenuScene& scene, int item);
     Effects StartScrolling(const MenuScene& scene, bool towardsEnd);
     void StopScrolling(Effects& effects);
 

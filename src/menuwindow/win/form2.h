@@ -6,14 +6,14 @@
 
 #include "core/settings.h"
 #include "menus/menu_records.h"
-#include "menuwindow/paint/animation.h"
 #include "menuwindow/interaction/cascade.h"
 #include "menuwindow/interaction/choosing.h"
 #include "menuwindow/interaction/menu_interaction.h"
-#include "menuwindow/layout/title_buttons.h"
-#include "menuwindow/look/sounds.h"
-#include "menuwindow/look/menu_look.h"
 #include "menuwindow/layout/menu_scene.h"
+#include "menuwindow/layout/title_buttons.h"
+#include "menuwindow/look/menu_look.h"
+#include "menuwindow/look/sounds.h"
+#include "menuwindow/paint/animation.h"
 #include "menuwindow/paint/repaint.h"
 #include "menuwindow/win/back_buffer.h"
 #include "menuwindow/win/item_icons.h"
@@ -90,7 +90,6 @@ public:
     const MenuWindow::MenuScene& scene() const { return scene_; }
     const MenuWindow::SelectionState& selection() const { return selection_; }
     const MenuWindow::InteractionState& interaction() const { return interaction_.state(); }
-    bool RolledUp() const { return rolledUp_; }
     // How many buttons were painted one by one since the window was made (a full paint
     // does not count); it shows that a change of selection repaints only what changed.
     int ButtonsDrawn() const { return buttonsDrawn_; }

@@ -106,13 +106,7 @@ void Form2::DrawScrollButton() {
 }
 
 void Form2::MakeButtonVisible(int item) {
-    int first = FirstToShow(scene_.view(), item);
-    if (first != scene_.view().first) {
-        ScrollTo(scene_, first);
-        Record().firstVisible = scene_.view().first;
-        PaintSurface();
-    }
-    SetSelection({item, false});
+    Apply(interaction_.MakeButtonVisible(scene_, item));
 }
 
 // The same items in the other look: the list is not taken again.
