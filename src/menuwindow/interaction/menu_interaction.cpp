@@ -419,11 +419,10 @@ void MenuInteraction::SubMenuOpened(int item) {
     state_.openSubMenu = item;
 }
 
-Effects MenuInteraction::SubMenuClosed() {
-    Effects effects;
-    effects.item = state_.openSubMenu;
+int MenuInteraction::SubMenuClosed() {
+    int item = state_.openSubMenu;
     state_.openSubMenu = 0;
-    return effects;
+    return item;
 }
 
 Effects MenuInteraction::StopAll() {

@@ -109,9 +109,9 @@ public:
     Effects KeyUp(const MenuScene& scene, char32_t character, Modifiers modifiers);
 
     // This window's sub-menu for an item opened; the sub-menu closed (unloaded, closed by
-    // the keyboard or torn off): the item is redrawn in the state the selection gives it.
+    // the keyboard or torn off), which gives the item it was open for, to be redrawn.
     void SubMenuOpened(int item);
-    Effects SubMenuClosed();
+    int SubMenuClosed();
     // A sub-menu closed by the keyboard hands the keyboard back: the next move is ignored,
     // so that the selection stays where the keyboard left it.
     void DiscardNextMove() { state_.discardMove = true; }

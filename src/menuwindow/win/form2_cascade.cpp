@@ -14,8 +14,7 @@ void Form2::OpenNewMenu(int item) {
     record.id = openMenus_.records().At(index).id;
     int childId = record.id;
     openMenus_.records().At(index) = std::move(record);
-    openMenus_.Attach(index,
-                      std::make_unique<Form2>(settings_, menus_, programFolder_, openMenus_, childId));
+    openMenus_.Attach(index, std::make_unique<Form2>(settings_, menus_, programFolder_, openMenus_, childId));
     Form2* child = openMenus_.WindowOf(childId);
     if (!child || !child->Create()) {
         openMenus_.Close(openMenus_.records().IndexOf(childId));
@@ -42,10 +41,10 @@ void Form2::CloseSubMenu() {
 }
 
 void Form2::NotifySubMenuClosed() {
-    Effects closed = interaction_.SubMenuClosed();
+    int item = interaction_.SubMenuClosed();
     SetInactive(false);
-    if (closed.item != 0)
-        ForceRedrawButton(closed.item);
+    if (item != 0)
+        ForceRedrawButton(item);
 }
 
 void Form2::NotifyDiscardMouseMove() {
