@@ -118,6 +118,25 @@ TEST_F(Form2Choosing, TheRightButtonShowsAFilesPropertiesAndAMenuItemOpensItsMen
     EXPECT_EQ(choices.calls.size(), 1u);
 }
 
+TEST_F(Form2Choosing, CtrlWithAnItemsHotKeyChoosesItOnKeyUp) {
+    openMenus.CloseAll();
+    int menu = AddMenu("Keys", {"Editor"});
+    ItemOf(menu, 0).PATH = "notepad.exe";
+    ItemOf(menu, 0).HOTKEY = std::string(1, 'e');
+    form = Open(MenuRecord(menu));
+    ASSERT_TRUE(form);
+    BYTE keys[256]{};
+    ::GetKeyboardState(keys);
+    ::SendMessageW(form->hwnd(), WM_KEYUP, 'E', 0);
+    EXPECT_TRUE(choices.calls.empty()) << "without Ctrl a letter only searches";
+    keys[VK_CONTROL] = 0x80;
+    ::SetKeyboardState(keys);
+    ::SendMessageW(form->hwnd(), WM_KEYUP, 'E', 0);
+    keys[VK_CONTROL] = 0;
+    ::SetKeyboardState(keys);
+    EXPECT_EQ(choices.calls, std::vector<std::string>{"program notepad.exe"});
+}
+
 TEST_F(Form2Choosing, AMenuThatOpensItselfOpensANewWindowEachTime) {
     int loop = AddMenu("Loop", {"Again"});
     ItemOf(loop, 0).TYPE = kItemMenuName;
