@@ -185,10 +185,6 @@ LRESULT Form2::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPar
     case WM_RBUTTONUP:
         Form_MouseUp(MenuWindow::MouseButton::Right, wParam, PointOf(lParam));
         return 0;
-    case WM_CAPTURECHANGED:
-        if (dragging_)
-            EndDrag();
-        return 0;
     case WM_KEYDOWN:
         Form_KeyDown(wParam);
         return 0;

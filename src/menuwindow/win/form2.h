@@ -114,10 +114,8 @@ private:
     void picbutton_MouseDown(MenuWindow::TitleButton button);
     void picbutton_MouseUp(MenuWindow::Point point);
     void DrawTitleButton(MenuWindow::TitleButton button, bool pressed);
-    POINT OnScreen(MenuWindow::Point point) const;
-    void BeginDrag(MenuWindow::Point point);
-    void DragTo(MenuWindow::Point point);
-    void EndDrag();
+    void DragByTitle();
+    void Drop(MenuWindow::Point from, MenuWindow::Point dropped);
     void TearOffFromParent();
     // Carries out what the interaction answered; the action comes last, since it may
     // close this window.
@@ -160,9 +158,6 @@ private:
     std::vector<MenuWindow::ButtonState> drawn_; // the state each item was last painted in, by item
     MenuWindow::MenuInteraction interaction_;
     std::optional<MenuWindow::TitleButton> pressedTitleButton_;
-    bool dragging_ = false;
-    POINT dragCursor_{};           // where the cursor pressed the title bar, on the screen
-    MenuWindow::Point dragWindow_; // where the window stood then
     bool inactive_ = false;
     bool rolledUp_ = false;
     int buttonsDrawn_ = 0;

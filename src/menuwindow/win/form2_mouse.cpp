@@ -15,7 +15,7 @@ void Form2::Form_MouseDown(MouseButton button, WPARAM keys, Point point) {
             return;
         }
         if (DragsMenu(scene_, point)) {
-            BeginDrag(point);
+            DragByTitle(); // this object may be gone afterwards
             return;
         }
     }
@@ -27,20 +27,12 @@ void Form2::Form_MouseDown(MouseButton button, WPARAM keys, Point point) {
 }
 
 void Form2::Form_MouseMove(Point point) {
-    if (dragging_) {
-        DragTo(point);
-        return;
-    }
     if (pressedTitleButton_)
         return;
     Apply(interaction_.Move(scene_, point));
 }
 
 void Form2::Form_MouseUp(MouseButton button, WPARAM keys, Point point) {
-    if (dragging_) {
-        EndDrag();
-        return;
-    }
     if (pressedTitleButton_) {
         picbutton_MouseUp(point);
         return;

@@ -63,39 +63,33 @@ void Form2::picbutton_MouseUp(Point point) {
     }
 }
 
-// A mouse message's point on the screen: the press and each move are taken where they
-// happened, however late they are handled.
-POINT Form2::OnScreen(Point point) const {
-    POINT screen{point.x, point.y};
-    ::ClientToScreen(window_.get(), &screen);
-    return screen;
+namespace {
+
+Point TopLeftOf(HWND window) {
+    RECT rect{};
+    ::GetWindowRect(window, &rect);
+    return {rect.left, rect.top};
 }
 
-void Form2::BeginDrag(Point point) {
+} // namespace
+
+// The system's own move loop carries the window with the mouse until the button comes
+// up, as it does a window's caption; the drop is decided once it is over.
+void Form2::DragByTitle() {
     CloseSubMenu();
-    dragging_ = true;
-    dragCursor_ = OnScreen(point);
-    RECT window{};
-    ::GetWindowRect(window_.get(), &window);
-    dragWindow_ = {window.left, window.top};
-    ::SetCapture(window_.get());
+    HWND hwnd = window_.get();
+    Point from = TopLeftOf(hwnd);
+    ::ReleaseCapture();
+    std::weak_ptr<bool> alive = lifetime_;
+    ::SendMessageW(hwnd, WM_SYSCOMMAND, SC_MOVE | HTCAPTION, 0);
+    if (alive.expired())
+        return;
+    Drop(from, TopLeftOf(hwnd));
 }
 
-void Form2::DragTo(Point point) {
-    POINT cursor = OnScreen(point);
-    ::SetWindowPos(window_.get(), nullptr, dragWindow_.x + cursor.x - dragCursor_.x,
-                   dragWindow_.y + cursor.y - dragCursor_.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
-}
-
-void Form2::EndDrag() {
-    dragging_ = false; // first: letting the capture go comes back here
-    if (::GetCapture() == window_.get())
-        ::ReleaseCapture();
-    RECT window{};
-    ::GetWindowRect(window_.get(), &window);
-    Point dropped{window.left, window.top};
+void Form2::Drop(Point from, Point dropped) {
     CascadeRec& record = Record();
-    DropAction action = DecideDrop(record, dragWindow_, dropped);
+    DropAction action = DecideDrop(record, from, dropped);
     if (action == DropAction::Nothing)
         return;
     record.bounds = RectAt(dropped, scene_.layout.window);

@@ -64,19 +64,22 @@ bool QuickClicks(int x, int y) {
     return true;
 }
 
+// Once the button is down the program's move loop holds the cursor against moves from
+// another process, as a popup menu does, but still sees each move's point: so only the
+// press waits for the cursor to stay.
 bool Drag(int fromX, int fromY, int toX, int toY) {
     if (!MoveMouse(fromX, fromY))
         return false;
     SendMouse(fromX, fromY, MOUSEEVENTF_LEFTDOWN);
     Settle(50ms);
     constexpr int kSteps = 5;
-    for (int step = 1; step < kSteps; ++step) {
+    for (int step = 1; step <= kSteps; ++step) {
         SendMouse(fromX + (toX - fromX) * step / kSteps, fromY + (toY - fromY) * step / kSteps, 0);
         Settle(30ms);
     }
-    bool arrived = MoveMouse(toX, toY);
+    Settle(100ms);
     SendMouse(toX, toY, MOUSEEVENTF_LEFTUP);
-    return arrived;
+    return true;
 }
 
 bool ClickWindow(HWND hwnd) {

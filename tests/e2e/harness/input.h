@@ -15,7 +15,8 @@ bool Click(int x, int y);
 void ClickDuringCapture(int x, int y);
 // Two clicks at a point in quick succession, well within a double-click time.
 bool QuickClicks(int x, int y);
-// Presses the left button at one point, moves to another in steps and lets go there.
+// Presses the left button at one point, moves to another in steps and lets go there;
+// false when the cursor would not stay at the first point.
 bool Drag(int fromX, int fromY, int toX, int toY);
 // Clicks the middle of a window.
 bool ClickWindow(HWND hwnd);
