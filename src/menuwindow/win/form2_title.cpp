@@ -79,7 +79,7 @@ void Form2::DragByTitle() {
     CloseSubMenu();
     HWND hwnd = window_.get();
     Point from = TopLeftOf(hwnd);
-    ::ReleaseCapture();
+    ::ReleaseCapture(); // a menu's hover may still hold the mouse; the loop takes it
     std::weak_ptr<bool> alive = lifetime_;
     ::SendMessageW(hwnd, WM_SYSCOMMAND, SC_MOVE | HTCAPTION, 0);
     if (alive.expired())

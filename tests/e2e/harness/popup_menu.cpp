@@ -33,4 +33,10 @@ void ChooseMenuEntry(char mnemonic) {
     PressKey(static_cast<WORD>(std::toupper(static_cast<unsigned char>(mnemonic))));
 }
 
+void ClickMenuEntry(const WindowInfo& menu, int entry, int entries) {
+    const RECT& r = menu.rect;
+    int height = r.bottom - r.top;
+    ClickDuringCapture((r.left + r.right) / 2, r.top + height * (2 * entry - 1) / (2 * entries));
+}
+
 } // namespace E2e

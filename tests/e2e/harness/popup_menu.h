@@ -19,7 +19,12 @@ inline constexpr const char* kPopupMenuClass = "#32768";
 std::optional<WindowInfo> WaitForPopupMenu(DWORD processId, Duration timeout = 10s);
 bool WaitForPopupMenuGone(DWORD processId, Duration timeout = 10s);
 
-// Chooses the entry whose underlined letter (the one behind '&') is the given one.
+// Chooses the entry whose underlined letter (the one behind '&') is the given one. The
+// key goes to the foreground window, which should be the menu's.
 void ChooseMenuEntry(char mnemonic);
+
+// Clicks entry `entry` (1-based) of a menu of `entries` entries of one height: a click
+// reaches the menu whichever window holds the keyboard (a program the test started may).
+void ClickMenuEntry(const WindowInfo& menu, int entry, int entries);
 
 } // namespace E2e

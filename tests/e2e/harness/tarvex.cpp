@@ -83,10 +83,12 @@ std::optional<WindowInfo> Tarvex::OpenTrayMenu() {
     return WaitForPopupMenu(processId_);
 }
 
+// By a click: a program a test started may hold the keyboard.
 bool Tarvex::ExitThroughTray() {
-    if (!OpenTrayMenu())
+    std::optional<WindowInfo> menu = OpenTrayMenu();
+    if (!menu)
         return false;
-    ChooseMenuEntry('x');
+    ClickMenuEntry(*menu, 2, 2); // "Preferences", "Exit"
     std::optional<WindowInfo> question = WaitForMessageBox(processId_);
     if (!question || !PressButton(question->hwnd, "Yes"))
         return false;
