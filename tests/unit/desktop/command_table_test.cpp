@@ -96,18 +96,6 @@ TEST(CommandActions, CodesMapToTheirActions) {
     EXPECT_EQ(CdDoorCommand(false), "Set CDAudio Door Closed");
 }
 
-TEST(CommandActions, ShowHideAndToggle) {
-    EXPECT_EQ(ActionOf(30).visibility, Visibility::Show);
-    EXPECT_EQ(ActionOf(31).visibility, Visibility::Hide);
-    EXPECT_EQ(ActionOf(10).visibility, Visibility::Toggle);
-    EXPECT_EQ(ActionOf(33).kind, Kind::DesktopIcons);
-    for (bool now : {false, true}) {
-        EXPECT_TRUE(ShowWindowFor(Visibility::Show, now));
-        EXPECT_FALSE(ShowWindowFor(Visibility::Hide, now));
-        EXPECT_EQ(ShowWindowFor(Visibility::Toggle, now), !now);
-    }
-}
-
 TEST(CommandActions, OnlyTheConfirmingSessionCommandsAsk) {
     struct Case {
         std::int16_t code;

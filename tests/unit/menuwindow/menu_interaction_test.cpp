@@ -199,16 +199,6 @@ TEST(MenuClicks, OneClickListsAFolderAndASecondQuickOneOpensIt) {
     EXPECT_EQ(slow.Click(3).action, MenuAction::CloseSubMenu);
 }
 
-TEST(MenuClicks, TheRightButtonShowsPropertiesAndMenusOpenOnClick) {
-    Menu menu(kFive);
-    menu.interaction.Press(menu.scene, MouseButton::Right, {}, menu.At(1));
-    EXPECT_EQ(menu.interaction.Release(menu.scene, MouseButton::Right, {}, menu.At(1)).action,
-              MenuAction::ShowProperties);
-    Effects opened = menu.Click(4);
-    EXPECT_EQ(opened.action, MenuAction::OpenSubMenu);
-    EXPECT_FALSE(Orders(opened, MenuTimer::DoubleClick, kDoubleClickInterval)) << "only folders wait for a second";
-}
-
 TEST(MenuHover, TheBarFollowsTheMouseOnlyWhenAskedAndLeavesWithIt) {
     Menu still(kFive);
     EXPECT_FALSE(still.interaction.Move(still.scene, still.At(2)).bar) << "SelBarFollowMouse is off by default";

@@ -135,6 +135,4 @@ TEST(TitleBar, ButtonsAndTheBarUnderTheMouse) {
     EXPECT_TRUE(DragsMenu(scene, {bar.left + 2, bar.top + 2}));
     EXPECT_FALSE(DragsMenu(scene, {bar.right - 8, bar.top + bar.Height() / 2}));
     EXPECT_FALSE(DragsMenu(scene, {bar.left + 2, scene.layout.surface.top + 2}));
-    EXPECT_EQ(TitleButtonSound(TitleButton::RollUp, false), SoundEvent::RollMenuUp);
-    EXPECT_EQ(TitleButtonSound(TitleButton::RollUp, true), SoundEvent::RollMenuDown);
 }
