@@ -2,20 +2,11 @@
 
 #include "core/message_box.h"
 #include "core/win/subroutines.h"
-#include "desktop/hotspots.h"
-#include "desktop/win/hotspot_opening.h"
 #include "win/text_convert.h"
 
 #include <windowsx.h>
 
-#include <optional>
-
 namespace {
-
-constexpr UINT_PTR kTimer1 = 1;
-constexpr UINT_PTR kTimer3 = 3;
-constexpr UINT kTimer1Interval = 100;
-constexpr UINT kTimer3Interval = 10;
 
 constexpr UINT kPopSetup = 1;
 constexpr UINT kPopExit = 2;
@@ -75,15 +66,15 @@ void Form1::BuildSystrayMenu() {
 LRESULT Form1::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     switch (message) {
     case WM_CREATE:
-        ::SetTimer(hwnd, kTimer3, kTimer3Interval, nullptr);
+        hotspotTimers_.Start(hwnd);
         return 0;
     case WM_MOUSEMOVE:
         Form_MouseMove(wParam, GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
         return 0;
     case WM_TIMER:
-        if (wParam == kTimer1)
+        if (wParam == HotspotTimers::kTimer1Id)
             Timer1_Timer();
-        else if (wParam == kTimer3)
+        else if (wParam == HotspotTimers::kTimer3Id)
             Timer3_Timer();
         return 0;
     case WM_CLOSE:
@@ -148,6 +139,10 @@ void Form1::Form_EndSession() {
 }
 
 void Form1::mPopSetup_Click() {
+    OpenPreferences();
+}
+
+void Form1::OpenPreferences() {
     if (!program_.values.PreferencesOpen)
         Show_Setup_Screen();
 }
@@ -177,8 +172,7 @@ void Form1::Remove_TrayIcon() {
 }
 
 void Form1::Form_Unload() {
-    ::KillTimer(window_.get(), kTimer1);
-    ::KillTimer(window_.get(), kTimer3);
+    hotspotTimers_.Stop();
 }
 
 void Form1::Unload() {
@@ -187,17 +181,14 @@ void Form1::Unload() {
 }
 
 void Form1::EnableTimer1() {
-    ::SetTimer(window_.get(), kTimer1, kTimer1Interval, nullptr);
+    hotspotTimers_.EnableTimer1();
 }
 
-// Turns a requested hotspot into its menu. Turning a pending mouse event or a hot key
-// into a hotspot comes with the hotspots issue.
 void Form1::Timer1_Timer() {
-    if (program_.HotspotsBusy)
-        return;
-    if (std::optional<int> hotspot = Hotspots::TakeRequestedHotspot(program_.RequestedHotspot))
-        HotspotOpening::OpenMenuOfHotspot(program_, *hotspot);
+    hotspotTimers_.Timer1_Timer();
 }
 
-// Samples the mouse buttons and the screen edges and keeps the form parked; the hotspots issue fills it.
-void Form1::Timer3_Timer() {}
+void Form1::Timer3_Timer() {
+    KeepParked();
+    hotspotTimers_.Timer3_Timer();
+}

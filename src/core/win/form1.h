@@ -6,11 +6,14 @@
 #include "core/startup_rules.h"
 #include "core/win/program.h"
 #include "core/win/tray_icon.h"
+#include "desktop/win/hotspot_timers.h"
 #include "menus/win/menu_launcher.h"
 #include "win/form_window.h"
 #include "win/handles.h"
 
 #include <windows.h>
+
+#include <optional>
 
 class Form1 {
 public:
@@ -30,6 +33,8 @@ public:
     LoadResult Form_Load();
 
     void Show_Setup_Screen();
+    // Opens the preferences unless they are open already.
+    void OpenPreferences();
     void Insert_TrayIcon();
     void Remove_TrayIcon();
     bool TrayIconShown() const { return trayIcon_.shown(); }
@@ -59,6 +64,7 @@ private:
     void SetProgramTitle();
     bool AnotherInstanceRunning();
     void ParkOffScreen();
+    void KeepParked();
     void WorkOutProgramFolder();
     void CreateProgramFolders();
     void BuildInternalCommandTable();
@@ -81,6 +87,8 @@ private:
     Win::UniqueKernelHandle instanceMarker_;
     TrayIcon trayIcon_;
     MenuLauncher menuLauncher_{*this};
+    HotspotTimers hotspotTimers_{*this};
+    std::optional<POINT> parkedAt_; // where ParkOffScreen put the form
     UINT taskbarCreatedMessage_ = 0;
     StartupRules::CommandLineWords commandLineWords_;
 };

@@ -34,8 +34,11 @@ Form1::LoadResult Form1::Form_Load() {
     values.TwipsPerPixelY = twips.y;
     values.SoundAvailable = SystemValues::SoundAvailable();
     BuildInternalCommandTable();
-    LoadSettings();
-    LoadMenus();
+    {
+        BusyScope rebuilding(program_.RebuildBusy);
+        LoadSettings();
+        LoadMenus();
+    }
     ClearOpenMenus();
     if (program_.settings.GenShowInTray)
         Insert_TrayIcon();
@@ -69,7 +72,17 @@ void Form1::ParkOffScreen() {
     int y = StartupRules::TwipsToPixels(kParkedPositionTwips, twips.y);
     int width = StartupRules::TwipsToPixels(kParkedSizeTwips, twips.x);
     int height = StartupRules::TwipsToPixels(kParkedSizeTwips, twips.y);
+    parkedAt_ = {x, y};
     ::SetWindowPos(window_.get(), nullptr, x, y, width, height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// Timer3 keeps the hidden form where it was parked, wherever something moved it.
+void Form1::KeepParked() {
+    RECT rect{};
+    if (!window_ || !parkedAt_ || !::GetWindowRect(window_.get(), &rect) ||
+        (rect.left == parkedAt_->x && rect.top == parkedAt_->y))
+        return;
+    ::SetWindowPos(window_.get(), nullptr, parkedAt_->x, parkedAt_->y, 0, 0, SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOSIZE);
 }
 
 void Form1::WorkOutProgramFolder() {

@@ -15,6 +15,18 @@
 #include <string>
 #include <vector>
 
+// Sets a busy flag for as long as it lives.
+class BusyScope {
+public:
+    explicit BusyScope(bool& flag) : flag_(flag) { flag_ = true; }
+    ~BusyScope() { flag_ = false; }
+    BusyScope(const BusyScope&) = delete;
+    BusyScope& operator=(const BusyScope&) = delete;
+
+private:
+    bool& flag_;
+};
+
 struct Program {
     HINSTANCE instance = nullptr;
     int iconResource = 0;  // the program's icon among the exe's resources
@@ -26,8 +38,10 @@ struct Program {
     OpenMenus openMenus; // the cascade list: every open menu window and its record
     // A hotspot that other parts ask to have fired on Timer1's next tick; -1 for none.
     std::int16_t RequestedHotspot = -1;
-    // While set, Timer1 fires no hotspot: a question of the program's is up.
-    bool HotspotsBusy = false;
+    // While either is set Timer1 fires no hotspot, and a click waits for it: a question of
+    // the internal commands is up; menus are being rebuilt or settings applied.
+    bool QuestionBusy = false;
+    bool RebuildBusy = false;
     // The internal commands as the menu editor and the hotspots page offer them.
     std::vector<CommandTable::CommandRow> commandTable;
 };

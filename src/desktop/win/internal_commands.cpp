@@ -29,11 +29,9 @@ void Warn(std::string_view text) {
 bool Confirmed(Program& program, const std::string& label) {
     if (label.empty())
         return true;
-    program.HotspotsBusy = true;
-    int answer = MessageBoxes::MsgBox(SessionQuestion(label), kSessionQuestionTitle,
-                                      MessageBoxes::kYesNo | MessageBoxes::kQuestion);
-    program.HotspotsBusy = false;
-    return answer == MessageBoxes::kYes;
+    BusyScope busy(program.QuestionBusy);
+    return MessageBoxes::MsgBox(SessionQuestion(label), kSessionQuestionTitle,
+                                MessageBoxes::kYesNo | MessageBoxes::kQuestion) == MessageBoxes::kYes;
 }
 
 void EndTheSession(Form1& form1, const Action& action) {

@@ -117,7 +117,7 @@ void Form2::Form_Unload() {
             ::ReleaseCapture();
     }
     DestroyIconHandles();
-    if (Form2* parent = Parent(); parent && !openMenus_.ClosingAll())
+    if (Form2* parent = Parent(); parent && !openMenus_.Closing())
         parent->NotifySubMenuClosed();
 }
 
@@ -154,6 +154,10 @@ void Form2::CloseCascade() {
 
 void Form2::tmrSetForeground_Timer() {
     ::KillTimer(window_.get(), TimerId(MenuWindow::MenuTimer::SetForeground));
+    BringForward();
+}
+
+void Form2::BringForward() {
     if (openMenus_.choices)
         openMenus_.choices->ActivateTaskWindow(window_.get());
 }

@@ -50,6 +50,9 @@ public:
     // queue is served during the animation, so the object may be gone when this returns.
     void Show();
 
+    // Brings the window to the front: a hotspot fired again for an AlwaysOpen menu.
+    void BringForward();
+
     void SetLocalVariables();
     // Builds the display list, measures, places and paints the whole window.
     void PaintMenu();

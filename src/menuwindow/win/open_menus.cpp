@@ -37,10 +37,16 @@ void OpenMenus::Close(int index) {
 }
 
 void OpenMenus::CloseAll() {
-    closingAll_ = true;
+    closing_ = true;
     while (records_.Count() > 0)
         Close(records_.Count());
-    closingAll_ = false;
+    closing_ = false;
+}
+
+void OpenMenus::CloseHotspotMenu(int id) {
+    closing_ = true;
+    CloseWithSubMenus(id);
+    closing_ = false;
 }
 
 void OpenMenus::CloseWithSubMenus(int id) {

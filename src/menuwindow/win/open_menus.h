@@ -38,8 +38,12 @@ public:
     void CloseWithSubMenus(int id);
     // A torn-off menu's window goes on under its fresh identifier.
     void Renumber(int id, int freshId);
-    // While the whole cascade closes, no window needs to hear that its sub-menu went.
-    bool ClosingAll() const { return closingAll_; }
+    // Closes a menu with every menu below it, as a hotspot closes its menu: no window
+    // needs to hear that a sub-menu went.
+    void CloseHotspotMenu(int id);
+    // While whole cascades close (the closing flag), no window needs to hear that its
+    // sub-menu went.
+    bool Closing() const { return closing_; }
 
     // ForceOnTop of the hotspot that opened the latest menu: its window is kept topmost.
     bool forceOnTop = false;
@@ -49,5 +53,5 @@ public:
 private:
     MenuWindow::CascadeList records_;
     std::map<int, std::unique_ptr<Form2>> windows_;
-    bool closingAll_ = false;
+    bool closing_ = false;
 };

@@ -41,12 +41,19 @@ bool MoveMouse(int x, int y) {
     return false;
 }
 
-bool Click(int x, int y) {
+bool Click(int x, int y, Button button) {
     if (!MoveMouse(x, y))
         return false;
-    SendMouse(x, y, MOUSEEVENTF_LEFTDOWN);
+    struct Flags {
+        DWORD down;
+        DWORD up;
+    };
+    Flags flags = button == Button::Right    ? Flags{MOUSEEVENTF_RIGHTDOWN, MOUSEEVENTF_RIGHTUP}
+                  : button == Button::Middle ? Flags{MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP}
+                                             : Flags{MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP};
+    SendMouse(x, y, flags.down);
     Settle(50ms);
-    SendMouse(x, y, MOUSEEVENTF_LEFTUP);
+    SendMouse(x, y, flags.up);
     return true;
 }
 
@@ -108,6 +115,14 @@ HeldKey::HeldKey(WORD virtualKey) : key_(virtualKey) {
 HeldKey::~HeldKey() {
     SendKey(key_, true);
     WaitUntil([this] { return (::GetAsyncKeyState(key_) & 0x8000) == 0; }, 2s);
+}
+
+void TapKeys(WORD modifier, WORD virtualKey, Duration hold) {
+    SendKey(modifier, false);
+    SendKey(virtualKey, false);
+    Settle(hold);
+    SendKey(virtualKey, true);
+    SendKey(modifier, true);
 }
 
 void PressKey(WORD virtualKey) {

@@ -2,13 +2,17 @@
 // the program sees as real input because both share Wine's virtual desktop.
 #pragma once
 
+#include "harness/wait.h"
+
 #include <windows.h>
 
 namespace E2e {
 
+enum class Button { Left, Right, Middle };
+
 // False when the cursor would not stay at the point.
 bool MoveMouse(int x, int y);
-bool Click(int x, int y);
+bool Click(int x, int y, Button button = Button::Left);
 // A click whose button events carry the point themselves: while a popup menu of the
 // program tracks the mouse, Wine keeps the cursor where it is against moves from
 // another process, but the menu still sees where the click is.
@@ -22,6 +26,9 @@ bool Drag(int fromX, int fromY, int toX, int toY);
 bool ClickWindow(HWND hwnd);
 // Presses and releases one key.
 void PressKey(WORD virtualKey);
+// A modifier and a key pressed together, held for a moment and let go; nothing here
+// asks for the keys' state, which would take the "pressed since" mark the program reads.
+void TapKeys(WORD modifier, WORD virtualKey, Duration hold);
 
 // Holds a key down for as long as the object lives: a click with Ctrl held.
 class HeldKey {

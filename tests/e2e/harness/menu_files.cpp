@@ -1,5 +1,9 @@
 #include "harness/menu_files.h"
 
+#include "win/text_convert.h"
+
+#include <windows.h>
+
 namespace E2e {
 
 namespace {
@@ -30,6 +34,23 @@ TestItem Item(std::string label, std::uint8_t type, std::string path) {
     item.label = std::move(label);
     item.type = type;
     item.path = std::move(path);
+    return item;
+}
+
+std::string SystemFile(const char* name) {
+    wchar_t folder[MAX_PATH];
+    ::GetSystemDirectoryW(folder, MAX_PATH);
+    std::string path = Win::Narrow(folder);
+    path += "\\";
+    path += name;
+    return path;
+}
+
+TestItem WritesAFile(const std::string& label, const std::string& file, const std::string& startFolder) {
+    TestItem item = Item(label, 0, SystemFile("cmd.exe"));
+    item.arg = "/c cd > ";
+    item.arg += file;
+    item.startPath = startFolder;
     return item;
 }
 
@@ -64,22 +85,51 @@ std::vector<TestItem> NotepadItems(const std::vector<std::string>& labels) {
     return items;
 }
 
-std::string StartupMenuSettings(const std::string& menuName, int left, int top, const std::string& extra) {
+std::string HotspotSettings(const std::vector<TestHotspot>& hotspots, const std::string& extra) {
     std::string text = "[TARVEX]\n";
     text += extra;
-    text += "GenShowInTray=False\nNoOfHotSpots=0\nGenStartupHotspot0=0\n";
-    text += "HotSpot0x1=48\nHotSpot0x2=1024\nHotSpot0y1=0\nHotSpot0y2=768\n";
-    text += "HotSpot0App=Desktop\nHotSpot0GroupName=Default\n";
-    text += "HotSpot0Type=1\n";
-    text += Setting("HotSpot0Menupath1", menuName);
-    text += Setting("HotSpot0Menuleft", std::to_string(left));
-    text += Setting("HotSpot0Menutop", std::to_string(top));
+    text += "GenShowInTray=False\n";
+    text += Setting("NoOfHotSpots", std::to_string(static_cast<int>(hotspots.size()) - 1));
+    for (std::size_t i = 0; i < hotspots.size(); ++i) {
+        const TestHotspot& spot = hotspots[i];
+        std::string key = "HotSpot";
+        key += std::to_string(i);
+        auto add = [&](const char* field, const std::string& value) {
+            std::string name = key;
+            name += field;
+            text += Setting(name, value);
+        };
+        add("x1", std::to_string(spot.x1));
+        add("x2", std::to_string(spot.x2));
+        add("y1", std::to_string(spot.y1));
+        add("y2", std::to_string(spot.y2));
+        add("App", spot.app);
+        add("GroupName", spot.group);
+        add("Type", std::to_string(spot.type));
+        add("Menupath1", spot.target);
+        add("Menupath2", spot.target2);
+        add("Menuleft", std::to_string(spot.left));
+        add("Menutop", std::to_string(spot.top));
+        add("MouseButton", std::to_string(spot.mouseButton));
+        add("OnMouse", spot.onMouse ? "True" : "False");
+        add("AlwaysOpen", spot.alwaysOpen ? "1" : "0");
+        add("UseHotKey", spot.hotKey ? "1" : "0");
+        add("Hotkey", std::to_string(spot.hotKey));
+    }
     text += "TitleColor=8400912\nTitleFontColor=57599\nTitleGradient=False\nTitleFlat=True\nTitleOverlap=False\n";
     text += Setting("TitleVSize", std::to_string(kPlainTitleHeight));
     text += "ButtonColor=15788256\nButtonFontColor=3153936\nButtonGradient=False\nButtonFlat=1\n";
     text += Setting("ButtonVSize", std::to_string(kPlainButtonHeight));
     text += "MenuNoFrames=1\nTwinScrollButtons=False\n";
     return text;
+}
+
+std::string StartupMenuSettings(const std::string& menuName, int left, int top, const std::string& extra) {
+    TestHotspot hotspot;
+    hotspot.target = menuName;
+    hotspot.left = left;
+    hotspot.top = top;
+    return HotspotSettings({hotspot}, extra + "GenStartupHotspot0=0\n");
 }
 
 } // namespace E2e

@@ -1,5 +1,6 @@
 #include "harness/menu_window.h"
 
+#include "harness/menu_files.h"
 #include "harness/screen.h"
 
 namespace E2e {
@@ -40,6 +41,11 @@ std::optional<WindowInfo> MenuWindowTitled(DWORD processId, const std::string& t
         if (window.title == title)
             return window;
     return std::nullopt;
+}
+
+POINT PlainItemPoint(const RECT& menu, int item) {
+    return {(menu.left + menu.right) / 2,
+            menu.top + kPlainTitleHeight + (item - 1) * kPlainButtonHeight + kPlainButtonHeight / 2};
 }
 
 } // namespace E2e

@@ -20,6 +20,9 @@ std::vector<WindowInfo> VisibleMenuWindows(DWORD processId);
 // Waits until the process shows exactly count menu windows, each painted and steady.
 bool WaitForMenuCount(DWORD processId, std::size_t count, Duration timeout = 20s);
 
+// The middle of an item's button (1-based) in a menu of the plain look.
+POINT PlainItemPoint(const RECT& menu, int item);
+
 // The visible menu window with a title; none when there is no such window.
 std::optional<WindowInfo> MenuWindowTitled(DWORD processId, const std::string& title);
 

@@ -72,6 +72,11 @@ std::optional<WindowInfo> Tarvex::WaitForMainForm(Duration timeout) {
     return found;
 }
 
+bool Tarvex::WaitUntilReady(Duration timeout) {
+    return WaitForMainForm(timeout) &&
+           ::WaitForInputIdle(process_.get(), static_cast<DWORD>(timeout.count())) == 0;
+}
+
 void Tarvex::SendTrayMessage(UINT mouseMessage) {
     if (!mainForm_)
         WaitForMainForm();

@@ -40,6 +40,10 @@ public:
     // visible, so this waits for the window itself.
     std::optional<WindowInfo> WaitForMainForm(Duration timeout = 30s);
 
+    // The main form, once start-up is over and the program waits for input: its hotspots
+    // answer from then on.
+    bool WaitUntilReady(Duration timeout = 30s);
+
     // Posts what the shell posts for a mouse event on the tray icon: the icon's
     // callback message (the mouse-move message) with the icon's id and the event.
     void SendTrayMessage(UINT mouseMessage);

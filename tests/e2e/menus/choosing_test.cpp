@@ -6,7 +6,6 @@
 #include "harness/menu_window.h"
 #include "harness/program_folder.h"
 #include "harness/tarvex.h"
-#include "win/text_convert.h"
 
 #include <gtest/gtest.h>
 
@@ -16,22 +15,6 @@
 namespace {
 
 using namespace E2e;
-
-std::string SystemFile(const char* name) {
-    wchar_t folder[MAX_PATH];
-    ::GetSystemDirectoryW(folder, MAX_PATH);
-    return Win::Narrow(folder) + "\\" + name;
-}
-
-// An item that runs cmd.exe to write a file: it proves that the item started, with
-// its arguments, in its start folder.
-TestItem WritesAFile(const std::string& label, const std::string& startFolder, const std::string& file) {
-    TestItem item = Item(label, 0, SystemFile("cmd.exe"));
-    item.arg = "/c cd > ";
-    item.arg += file;
-    item.startPath = startFolder;
-    return item;
-}
 
 HWND Taskbar() {
     return ::FindWindowW(L"Shell_TrayWnd", nullptr);
@@ -50,11 +33,7 @@ protected:
         menu = found->rect;
     }
 
-    // The middle of an item's button (1-based).
-    POINT ItemPoint(int item) const {
-        return {(menu.left + menu.right) / 2,
-                menu.top + kPlainTitleHeight + (item - 1) * kPlainButtonHeight + kPlainButtonHeight / 2};
-    }
+    POINT ItemPoint(int item) const { return PlainItemPoint(menu, item); }
 
     void ClickItem(int item) {
         POINT at = ItemPoint(item);
@@ -96,7 +75,7 @@ protected:
 
 TEST_F(Choosing, AProgramItemStartsWithItsArgumentsInItsStartFolderAndTheMenuCloses) {
     TempFolder work;
-    ASSERT_NO_FATAL_FAILURE(Open({WritesAFile("Where am I", work.path(), "started.txt")}));
+    ASSERT_NO_FATAL_FAILURE(Open({WritesAFile("Where am I", "started.txt", work.path())}));
     ClickItem(1);
     // cmd.exe writes the folder it runs in: the item's start folder.
     EXPECT_TRUE(WaitUntil(
@@ -128,8 +107,8 @@ TEST_F(Choosing, AMissingProgramShowsWhyAfterTheMenuTriedIt) {
 
 TEST_F(Choosing, CtrlHeldKeepsTheMenuOpenForTheNextChoice) {
     TempFolder work;
-    ASSERT_NO_FATAL_FAILURE(Open({WritesAFile("First", work.path(), "first.txt"),
-                                  WritesAFile("Second", work.path(), "second.txt")}));
+    ASSERT_NO_FATAL_FAILURE(Open({WritesAFile("First", "first.txt", work.path()),
+                                  WritesAFile("Second", "second.txt", work.path())}));
     CtrlClickItem(1);
     EXPECT_TRUE(WaitUntil([&] { return work.Exists("first.txt"); }, 20s));
     EXPECT_TRUE(MenuStaysOpen());

@@ -112,7 +112,7 @@ TEST_F(InternalCommandsTest, NoToTheQuestionLeavesEverythingAsItWas) {
     EXPECT_EQ(boxes.requests.size(), 3u);
     EXPECT_TRUE(calls.empty());
     EXPECT_FALSE(taskbar.visible());
-    EXPECT_FALSE(program.HotspotsBusy);
+    EXPECT_FALSE(program.QuestionBusy);
 }
 
 TEST_F(InternalCommandsTest, QuickCommandsAskNothingAndLoggingOutTakesNoPrivilege) {

@@ -1,0 +1,201 @@
+#include "desktop/win/hotspot_timers.h"
+
+#include "core/win/form1.h"
+#include "desktop/hotspots.h"
+#include "desktop/win/hotspot_opening.h"
+#include "menus/win/launcher.h"
+#include "menuwindow/win/form2.h"
+#include "win/text_convert.h"
+
+#include <array>
+#include <optional>
+
+namespace {
+
+constexpr UINT_PTR kTimer1 = HotspotTimers::kTimer1Id;
+constexpr UINT_PTR kTimer3 = HotspotTimers::kTimer3Id;
+constexpr UINT kTimer1Interval = 100;
+constexpr UINT kTimer3Interval = 10;
+constexpr int kTitleLength = 255;
+
+// The keys as they are now, each asked once per look.
+class KeysNow {
+public:
+    bool Down(int key) {
+        if (key <= 0 || key >= static_cast<int>(seen_.size()))
+            return false;
+        std::optional<bool>& seen = seen_[static_cast<std::size_t>(key)];
+        if (!seen)
+            seen = (::GetAsyncKeyState(key) & 0x8000) != 0;
+        return *seen;
+    }
+
+    Hotspots::KeyDown AsKeyDown() {
+        return [this](int key) { return Down(key); };
+    }
+
+private:
+    std::array<std::optional<bool>, 256> seen_{};
+};
+
+MenuWindow::Point CursorPoint() {
+    POINT cursor{};
+    ::GetCursorPos(&cursor);
+    return {cursor.x, cursor.y};
+}
+
+HWND AsWindow(std::uintptr_t window) {
+    return reinterpret_cast<HWND>(window);
+}
+
+std::string TitleOf(std::uintptr_t window) {
+    wchar_t title[kTitleLength + 1]{};
+    int length = ::GetWindowTextW(AsWindow(window), title, kTitleLength + 1);
+    return Win::Narrow(std::wstring_view(title, static_cast<std::size_t>(length > 0 ? length : 0)));
+}
+
+std::uintptr_t ParentOf(std::uintptr_t window) {
+    return reinterpret_cast<std::uintptr_t>(::GetParent(AsWindow(window)));
+}
+
+} // namespace
+
+// Timer1 is off while it works, so that Timer3 does not call it again from a message
+// loop that its work runs (a question, a menu's opening animation); back on at every exit.
+class HotspotTimers::Timer1Pause {
+public:
+    explicit Timer1Pause(HotspotTimers& timers) : timers_(timers) { timers_.DisableTimer1(); }
+    ~Timer1Pause() { timers_.EnableTimer1(); }
+    Timer1Pause(const Timer1Pause&) = delete;
+    Timer1Pause& operator=(const Timer1Pause&) = delete;
+
+private:
+    HotspotTimers& timers_;
+};
+
+void HotspotTimers::Start(HWND window) {
+    window_ = window;
+    ::SetTimer(window_, kTimer3, kTimer3Interval, nullptr);
+}
+
+void HotspotTimers::EnableTimer1() {
+    if (stopped_ || !::IsWindow(window_))
+        return;
+    ::SetTimer(window_, kTimer1, kTimer1Interval, nullptr);
+    timer1Enabled_ = true;
+}
+
+void HotspotTimers::DisableTimer1() {
+    ::KillTimer(window_, kTimer1);
+    timer1Enabled_ = false;
+}
+
+void HotspotTimers::Stop() {
+    stopped_ = true;
+    DisableTimer1();
+    ::KillTimer(window_, kTimer3);
+}
+
+Hotspots::MouseSample HotspotTimers::SampleMouse() const {
+    Hotspots::MouseSample sample;
+    KeysNow keys;
+    sample.left = keys.Down(VK_LBUTTON);
+    sample.right = keys.Down(VK_RBUTTON);
+    sample.middle = keys.Down(VK_MBUTTON);
+    POINT cursor{};
+    ::GetCursorPos(&cursor);
+    sample.cursor = {cursor.x, cursor.y};
+    sample.window = reinterpret_cast<std::uintptr_t>(::WindowFromPoint(cursor));
+    sample.screenWidth = ::GetSystemMetrics(SM_CXSCREEN);
+    sample.screenHeight = ::GetSystemMetrics(SM_CYSCREEN);
+    return sample;
+}
+
+void HotspotTimers::Timer3_Timer() {
+    const SettingsRec& settings = form1_.program().settings;
+    Hotspots::TrackerDelays delays{settings.GenDblClickDelay, settings.GenBumpDelay};
+    KeysNow keys;
+    hotKeys_.Sample(settings, keys.AsKeyDown());
+    if (Hotspots::TrackMouse(tracker_, event_, SampleMouse(), delays) && timer1Enabled_)
+        Timer1_Timer();
+}
+
+void HotspotTimers::Timer1_Timer() {
+    Program& program = form1_.program();
+    if (!program.QuestionBusy && !program.RebuildBusy) {
+        Timer1Pause pause(*this);
+        Dispatch();
+    }
+    hotKeys_.EndTick();
+}
+
+void HotspotTimers::Dispatch() {
+    Program& program = form1_.program();
+    KeysNow keys;
+    Hotspots::KeyDown down = keys.AsKeyDown();
+
+    if (std::optional<int> requested = Hotspots::TakeRequestedHotspot(program.RequestedHotspot)) {
+        Fire(*requested, {0, 0}, CursorPoint());
+        return;
+    }
+    if (std::optional<Hotspots::HotKey> general = Hotspots::GeneralHotKey(program.settings)) {
+        Hotspots::HotKeyWatch::State state = hotKeys_.Check(*general, down);
+        if (state == Hotspots::HotKeyWatch::State::Pressed)
+            form1_.OpenPreferences();
+        if (state != Hotspots::HotKeyWatch::State::Up)
+            return;
+    }
+    if (!event_.PendingClick) {
+        if (std::optional<int> hotspot = Hotspots::HotspotByHotKey(program.settings.HotSpots, hotKeys_, down))
+            Fire(*hotspot, {0, 0}, CursorPoint());
+        return;
+    }
+    event_.PendingClick = 0;
+    std::optional<Hotspots::Choice> choice =
+        Hotspots::ChooseHotspot(program.settings.HotSpots, event_.PendingClickCode, event_.ClickPoint,
+                                [this] { return ClickedWindowOf(event_.ClickWindow); });
+    if (choice)
+        Fire(choice->hotspot, choice->origin, event_.ClickPoint);
+}
+
+Hotspots::ClickedWindow HotspotTimers::ClickedWindowOf(std::uintptr_t window) const {
+    Hotspots::WindowLookup lookup{TitleOf, ParentOf, reinterpret_cast<std::uintptr_t>(::GetDesktopWindow())};
+    std::uintptr_t reference = Hotspots::ReferenceWindow(window, lookup);
+    Hotspots::ClickedWindow clicked;
+    clicked.title = Hotspots::HotspotTitle(reference, lookup);
+    RECT rect{};
+    ::GetWindowRect(AsWindow(reference), &rect);
+    clicked.origin = {rect.left, rect.top};
+    DWORD processId = 0;
+    ::GetWindowThreadProcessId(AsWindow(reference), &processId);
+    clicked.ours = processId == ::GetCurrentProcessId();
+    return clicked;
+}
+
+void HotspotTimers::Fire(int hotspot, MenuWindow::Point origin, MenuWindow::Point cursor) {
+    Program& program = form1_.program();
+    if (hotspot < 0 || static_cast<std::size_t>(hotspot) >= program.settings.HotSpots.size())
+        return;
+    // A copy: a command it runs may change the settings.
+    const HotspotRec record = program.settings.HotSpots[static_cast<std::size_t>(hotspot)];
+    Hotspots::Toggle toggle = Hotspots::DecideToggle(program.openMenus.records(), hotspot, record.GroupName);
+    for (int id : toggle.bringForward) {
+        if (Form2* menu = program.openMenus.WindowOf(id))
+            menu->BringForward();
+    }
+    if (toggle.close != 0)
+        program.openMenus.CloseHotspotMenu(toggle.close);
+    if (!toggle.fire)
+        return;
+    switch (Hotspots::ActionOf(record.Type)) {
+    case Hotspots::Action::RunProgram:
+        Launcher::RunProgram(program, record.Menuname, record.StartPath, record.Menupath1, record.Menupath2, 0);
+        break;
+    case Hotspots::Action::RunCommand:
+        Launcher::RunCommand(form1_, record.Menupath2);
+        break;
+    case Hotspots::Action::OpenMenu:
+        HotspotOpening::OpenHotspotMenu(program, hotspot, origin, cursor);
+        break;
+    }
+}
