@@ -53,7 +53,7 @@ bool WatchedButtonDown(ClickTracker& tracker, PendingEvent& event, const MouseSa
 
 bool LeftPressPlace(const PendingEvent& event, const MouseSample& sample) {
     return std::abs(sample.cursor.x - event.ClickPoint.x) > kClickSlop ||
-           std::abs(sample.cursor.y - event.ClickPoint.y) > kClickSlop || sample.window != event.ClickWindow;
+           std::abs(sample.cursor.y - event.ClickPoint.y) > kClickSlop || sample.windowAtCursor() != event.ClickWindow;
 }
 
 // A press that moved away raises nothing.
@@ -71,7 +71,7 @@ void TrackPress(ClickTracker& tracker, PendingEvent& event, const MouseSample& s
             tracker.Pending = kTrue;
             tracker.Ticks = 0;
             event.ClickPoint = sample.cursor;
-            event.ClickWindow = sample.window;
+            event.ClickWindow = sample.windowAtCursor();
         }
     } else if (tracker.Pending && !tracker.Armed) {
         if (!down) {
@@ -117,7 +117,7 @@ void TrackEdges(ClickTracker& tracker, PendingEvent& event, const MouseSample& s
         event.PendingClick = kTrue;
         event.PendingClickCode = BumpCode(cursor, lastColumn, lastRow);
         event.ClickPoint = cursor;
-        event.ClickWindow = sample.window;
+        event.ClickWindow = sample.windowAtCursor();
         tracker.Ticks = 0;
         tracker.BumpCountdown = kBumpFired;
     } else if (tracker.BumpCountdown != kBumpFired) {

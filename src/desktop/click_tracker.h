@@ -6,6 +6,7 @@
 #include "menuwindow/layout/geometry.h"
 
 #include <cstdint>
+#include <functional>
 
 namespace Hotspots {
 
@@ -48,7 +49,9 @@ struct MouseSample {
     bool right = false;
     bool middle = false;
     MenuWindow::Point cursor;
-    std::uintptr_t window = 0; // the window under the cursor
+    // The window under the cursor, asked for only when a press begins or ends or a bump
+    // fires: finding it is the dearest part of a look, and most looks need none.
+    std::function<std::uintptr_t()> windowAtCursor;
     int screenWidth = 0;
     int screenHeight = 0;
 };

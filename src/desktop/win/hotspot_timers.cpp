@@ -7,6 +7,8 @@
 #include "menuwindow/win/form2.h"
 #include "win/text_convert.h"
 
+#include <windowsx.h>
+
 #include <array>
 #include <optional>
 
@@ -96,16 +98,19 @@ void HotspotTimers::Stop() {
     ::KillTimer(window_, kTimer3);
 }
 
+// The cursor is the one the timer message carries: it is where the cursor is as the
+// tick is taken, and reading it costs nothing, where asking for the cursor may cost a
+// round trip to the display (under Wine, a query of the X server on every tick).
 Hotspots::MouseSample HotspotTimers::SampleMouse() const {
     Hotspots::MouseSample sample;
     KeysNow keys;
     sample.left = keys.Down(VK_LBUTTON);
     sample.right = keys.Down(VK_RBUTTON);
     sample.middle = keys.Down(VK_MBUTTON);
-    POINT cursor{};
-    ::GetCursorPos(&cursor);
+    DWORD position = ::GetMessagePos();
+    POINT cursor{GET_X_LPARAM(position), GET_Y_LPARAM(position)};
     sample.cursor = {cursor.x, cursor.y};
-    sample.window = reinterpret_cast<std::uintptr_t>(::WindowFromPoint(cursor));
+    sample.windowAtCursor = [cursor] { return reinterpret_cast<std::uintptr_t>(::WindowFromPoint(cursor)); };
     sample.screenWidth = ::GetSystemMetrics(SM_CXSCREEN);
     sample.screenHeight = ::GetSystemMetrics(SM_CYSCREEN);
     return sample;

@@ -25,6 +25,7 @@ public:
     // Both timers stop for good: the program is ending.
     void Stop();
 
+    // Called for Timer3's message only: the message's cursor position is the tick's.
     void Timer3_Timer();
     void Timer1_Timer();
 

@@ -1,6 +1,7 @@
 // Hotspots as a user meets them: a click on the desktop, a push into a screen corner, a
 // hot key, a middle click, a right click in another program's window, each opening its
 // menu, and firing again (or firing another hotspot of the group) closing it.
+#include "harness/dialogs.h"
 #include "harness/failure_screenshots.h"
 #include "harness/input.h"
 #include "harness/menu_files.h"
@@ -153,6 +154,12 @@ TEST_F(Hotspots, HotKeysTappedBrieflyAndAMiddleClickAnywhereFireTheirHotspots) {
 
     ASSERT_TRUE(Click(700, 500, Button::Middle));
     EXPECT_TRUE(Shows({"Middle"}));
+
+    TapKeys(VK_CONTROL, VK_F12, 60ms);
+    std::optional<WindowInfo> preferences = WaitForMessageBox(tarvex.processId());
+    ASSERT_TRUE(preferences) << "the general hot key opens the preferences";
+    EXPECT_EQ(preferences->title, "Tarvex Preferences");
+    EXPECT_TRUE(PressButton(preferences->hwnd, "OK"));
 }
 
 TEST_F(Hotspots, ARightClickInAnotherProgramsWindowOpensItsHotspotRelativeToThatWindow) {
@@ -243,4 +250,19 @@ TEST_F(Hotspots, BrokenHotspotsFireNothingAndTheGoodOneAfterThemStillFires) {
     EXPECT_TRUE(WaitForMenuCount(tarvex.processId(), 2)) << "a type past the known ones opens a menu of its kind";
     EXPECT_TRUE(SaveNamedScreenshot("hotspots-broken"));
     EXPECT_TRUE(tarvex.running());
+}
+
+TEST_F(Hotspots, NoHotspotFiresWhileAQuestionOfTheProgramIsUp) {
+    ASSERT_NO_FATAL_FAILURE(Start({Spot("Programs", 0)}, {{"Programs", {Item("Shutdown Windows", 1, "*42")}}},
+                                  kSlowDoubleClick + "GenStartupHotspot0=0\n"));
+    ASSERT_TRUE(Shows({"Programs"}));
+    POINT item = PlainItemPoint(MenuRect("Programs"), 1);
+    ASSERT_TRUE(Click(item.x, item.y));
+    std::optional<WindowInfo> question = WaitForMessageBox(tarvex.processId());
+    ASSERT_TRUE(question);
+    ASSERT_TRUE(Click(700, 500));
+    Settle(kNothingFires);
+    EXPECT_TRUE(Shows({"Programs"})) << "the desktop click did not fire the hotspot, which would close the menu";
+    EXPECT_TRUE(PressButton(question->hwnd, "No"));
+    EXPECT_TRUE(Shows({})) << "the chosen item closes its menu";
 }

@@ -29,8 +29,9 @@ Run Track(const std::vector<Ticks>& script, TrackerDelays delays = {12, 5}, bool
     ClickTracker tracker;
     Run run;
     for (const Ticks& ticks : script) {
-        MouseSample sample{ticks.button == 'L', ticks.button == 'R', ticks.button == 'M', ticks.at, ticks.window,
-                           kWidth, kHeight};
+        std::uintptr_t window = ticks.window;
+        MouseSample sample{ticks.button == 'L', ticks.button == 'R', ticks.button == 'M', ticks.at,
+                           [window] { return window; }, kWidth, kHeight};
         for (int i = 0; i < ticks.count; ++i) {
             if (TrackMouse(tracker, run.left, sample, delays) && !busy) {
                 run.taken.push_back(run.left.PendingClickCode);
