@@ -116,8 +116,7 @@ void TrackEdges(ClickTracker& tracker, PendingEvent& event, const MouseSample& s
     } else if (tracker.BumpCountdown == 1) {
         event.PendingClick = kTrue;
         event.PendingClickCode = BumpCode(cursor, lastColumn, lastRow);
-        event.ClickPoint = cursor;
-        event.ClickWindow = sample.windowAtCursor();
+        event.ClickPoint = cursor; // where an OnMouse menu opens
         tracker.Ticks = 0;
         tracker.BumpCountdown = kBumpFired;
     } else if (tracker.BumpCountdown != kBumpFired) {

@@ -49,8 +49,8 @@ struct MouseSample {
     bool right = false;
     bool middle = false;
     MenuWindow::Point cursor;
-    // The window under the cursor, asked for only when a press begins or ends or a bump
-    // fires: finding it is the dearest part of a look, and most looks need none.
+    // The window under the cursor, asked for only when a press begins or ends: finding
+    // it is the dearest part of a look, and most looks need none.
     std::function<std::uintptr_t()> windowAtCursor;
     int screenWidth = 0;
     int screenHeight = 0;

@@ -60,6 +60,37 @@ std::uintptr_t ParentOf(std::uintptr_t window) {
     return reinterpret_cast<std::uintptr_t>(::GetParent(AsWindow(window)));
 }
 
+// The cursor is the one the timer message carries: it is where the cursor is as the
+// tick is taken, and reading it costs nothing, where asking for the cursor may cost a
+// round trip to the display (under Wine, a query of the X server on every tick).
+Hotspots::MouseSample SampleMouse(KeysNow& keys) {
+    Hotspots::MouseSample sample;
+    sample.left = keys.Down(VK_LBUTTON);
+    sample.right = keys.Down(VK_RBUTTON);
+    sample.middle = keys.Down(VK_MBUTTON);
+    DWORD position = ::GetMessagePos();
+    POINT cursor{GET_X_LPARAM(position), GET_Y_LPARAM(position)};
+    sample.cursor = {cursor.x, cursor.y};
+    sample.windowAtCursor = [cursor] { return reinterpret_cast<std::uintptr_t>(::WindowFromPoint(cursor)); };
+    sample.screenWidth = ::GetSystemMetrics(SM_CXSCREEN);
+    sample.screenHeight = ::GetSystemMetrics(SM_CYSCREEN);
+    return sample;
+}
+
+Hotspots::ClickedWindow ClickedWindowOf(std::uintptr_t window) {
+    Hotspots::WindowLookup lookup{TitleOf, ParentOf, reinterpret_cast<std::uintptr_t>(::GetDesktopWindow())};
+    std::uintptr_t reference = Hotspots::ReferenceWindow(window, lookup);
+    Hotspots::ClickedWindow clicked;
+    clicked.title = Hotspots::HotspotTitle(reference, lookup);
+    RECT rect{};
+    ::GetWindowRect(AsWindow(reference), &rect);
+    clicked.origin = {rect.left, rect.top};
+    DWORD processId = 0;
+    ::GetWindowThreadProcessId(AsWindow(reference), &processId);
+    clicked.ours = processId == ::GetCurrentProcessId();
+    return clicked;
+}
+
 } // namespace
 
 // Timer1 is off while it works, so that Timer3 does not call it again from a message
@@ -98,30 +129,12 @@ void HotspotTimers::Stop() {
     ::KillTimer(window_, kTimer3);
 }
 
-// The cursor is the one the timer message carries: it is where the cursor is as the
-// tick is taken, and reading it costs nothing, where asking for the cursor may cost a
-// round trip to the display (under Wine, a query of the X server on every tick).
-Hotspots::MouseSample HotspotTimers::SampleMouse() const {
-    Hotspots::MouseSample sample;
-    KeysNow keys;
-    sample.left = keys.Down(VK_LBUTTON);
-    sample.right = keys.Down(VK_RBUTTON);
-    sample.middle = keys.Down(VK_MBUTTON);
-    DWORD position = ::GetMessagePos();
-    POINT cursor{GET_X_LPARAM(position), GET_Y_LPARAM(position)};
-    sample.cursor = {cursor.x, cursor.y};
-    sample.windowAtCursor = [cursor] { return reinterpret_cast<std::uintptr_t>(::WindowFromPoint(cursor)); };
-    sample.screenWidth = ::GetSystemMetrics(SM_CXSCREEN);
-    sample.screenHeight = ::GetSystemMetrics(SM_CYSCREEN);
-    return sample;
-}
-
 void HotspotTimers::Timer3_Timer() {
     const SettingsRec& settings = form1_.program().settings;
     Hotspots::TrackerDelays delays{settings.GenDblClickDelay, settings.GenBumpDelay};
     KeysNow keys;
     hotKeys_.Sample(settings, keys.AsKeyDown());
-    if (Hotspots::TrackMouse(tracker_, event_, SampleMouse(), delays) && timer1Enabled_)
+    if (Hotspots::TrackMouse(tracker_, event_, SampleMouse(keys), delays) && timer1Enabled_)
         Timer1_Timer();
 }
 
@@ -161,20 +174,6 @@ void HotspotTimers::Dispatch() {
                                 [this] { return ClickedWindowOf(event_.ClickWindow); });
     if (choice)
         Fire(choice->hotspot, choice->origin, event_.ClickPoint);
-}
-
-Hotspots::ClickedWindow HotspotTimers::ClickedWindowOf(std::uintptr_t window) const {
-    Hotspots::WindowLookup lookup{TitleOf, ParentOf, reinterpret_cast<std::uintptr_t>(::GetDesktopWindow())};
-    std::uintptr_t reference = Hotspots::ReferenceWindow(window, lookup);
-    Hotspots::ClickedWindow clicked;
-    clicked.title = Hotspots::HotspotTitle(reference, lookup);
-    RECT rect{};
-    ::GetWindowRect(AsWindow(reference), &rect);
-    clicked.origin = {rect.left, rect.top};
-    DWORD processId = 0;
-    ::GetWindowThreadProcessId(AsWindow(reference), &processId);
-    clicked.ours = processId == ::GetCurrentProcessId();
-    return clicked;
 }
 
 void HotspotTimers::Fire(int hotspot, MenuWindow::Point origin, MenuWindow::Point cursor) {

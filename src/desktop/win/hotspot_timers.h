@@ -29,16 +29,12 @@ public:
     void Timer3_Timer();
     void Timer1_Timer();
 
-    bool Timer1Enabled() const { return timer1Enabled_; }
-
 private:
     class Timer1Pause;
     void DisableTimer1();
     // Timer1's work: a requested hotspot, the general hot key, a hotspot's hot key or
     // the pending event, in that order.
     void Dispatch();
-    Hotspots::MouseSample SampleMouse() const;
-    Hotspots::ClickedWindow ClickedWindowOf(std::uintptr_t window) const;
     // The toggle and group rule, then the hotspot's action.
     void Fire(int hotspot, MenuWindow::Point origin, MenuWindow::Point cursor);
 

@@ -53,13 +53,6 @@ protected:
         ASSERT_TRUE(tarvex.WaitUntilReady());
     }
 
-    std::vector<std::string> MenuTitles() {
-        std::vector<std::string> titles;
-        for (const WindowInfo& menu : VisibleMenuWindows(tarvex.processId()))
-            titles.push_back(menu.title);
-        return titles;
-    }
-
     // Waits for exactly these menus, painted and steady.
     ::testing::AssertionResult Shows(const std::vector<std::string>& titles) {
         if (!WaitForMenuCount(tarvex.processId(), titles.size()))
