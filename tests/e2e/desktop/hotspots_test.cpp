@@ -24,7 +24,7 @@ using namespace E2e;
 // and Timer1's next tick: an event that was going to fire has fired by then.
 constexpr Duration kNothingFires = 800ms;
 // 300 ms for a second click: a quick double click is one however busy the machine is.
-const std::string kSlowDoubleClick = "GenDblClickDelay=30\n";
+constexpr const char* kSlowDoubleClick = "GenDblClickDelay=30\n";
 
 TestHotspot Spot(const std::string& menu, int mouseButton, int left = 300, int top = 200) {
     TestHotspot spot;
@@ -124,11 +124,14 @@ TEST_F(Hotspots, HotKeysTappedBrieflyAndAMiddleClickAnywhereFireTheirHotspots) {
     keys.hotKey = VK_F5;
     TestHotspot program = Spot(SystemFile("cmd.exe"), 99);
     program.type = 2;
-    program.target2 = "/c echo ran > " + work.File("program.txt");
+    program.target2 = "/c echo ran > ";
+    program.target2 += work.File("program.txt");
     program.hotKey = VK_F6;
     TestHotspot command = Spot("", 99);
     command.type = 3;
-    command.target2 = SystemFile("cmd.exe") + " /c echo ran > " + work.File("command.txt");
+    command.target2 = SystemFile("cmd.exe");
+    command.target2 += " /c echo ran > ";
+    command.target2 += work.File("command.txt");
     command.hotKey = VK_F7;
     TestHotspot middle = Spot("Middle", 11);
     middle.app = "Nowhere";
@@ -191,8 +194,9 @@ TEST_F(Hotspots, AHotspotClosesTheOpenMenuOfItsGroupButAnAlwaysOpenMenuStays) {
     TestHotspot one = Spot("One", 0, 100, 100);
     one.alwaysOpen = true;
     std::vector<TestHotspot> spots = {one, Spot("Two", 2, 500, 100), Spot("Three", 11, 300, 400)};
+    const std::string group = "G";
     for (TestHotspot& spot : spots)
-        spot.group = "G";
+        spot.group = group;
     ASSERT_NO_FATAL_FAILURE(Start(spots, MenusNamed({"One", "Two", "Three"})));
     struct Step {
         Button button;
@@ -235,7 +239,7 @@ TEST_F(Hotspots, BrokenHotspotsFireNothingAndTheGoodOneAfterThemStillFires) {
     // The count claims 32767 hotspots; only these have keys.
     ASSERT_NO_FATAL_FAILURE(Start({rightClick(900, 0, 100, 768), rightClick(-500, -500, -10, -10),
                                    rightClick(5000, 5000, 9000, 9000), longApp, Spot("Programs", 99), unknownKind, good},
-                                  MenusNamed({"Programs"}), "NoOfHotSpots=32767\n" + kSlowDoubleClick));
+                                  MenusNamed({"Programs"}), "NoOfHotSpots=32767\nGenDblClickDelay=30\n"));
     ASSERT_TRUE(Click(500, 400, Button::Right));
     ASSERT_TRUE(Shows({"Programs"}));
     EXPECT_EQ(MenuRect("Programs").left, 100) << "the good hotspot, the first that matched";
@@ -247,7 +251,7 @@ TEST_F(Hotspots, BrokenHotspotsFireNothingAndTheGoodOneAfterThemStillFires) {
 
 TEST_F(Hotspots, NoHotspotFiresWhileAQuestionOfTheProgramIsUp) {
     ASSERT_NO_FATAL_FAILURE(Start({Spot("Programs", 0)}, {{"Programs", {Item("Shutdown Windows", 1, "*42")}}},
-                                  kSlowDoubleClick + "GenStartupHotspot0=0\n"));
+                                  "GenDblClickDelay=30\nGenStartupHotspot0=0\n"));
     ASSERT_TRUE(Shows({"Programs"}));
     POINT item = PlainItemPoint(MenuRect("Programs"), 1);
     ASSERT_TRUE(Click(item.x, item.y));
