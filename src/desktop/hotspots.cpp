@@ -11,8 +11,12 @@ constexpr const char* kDesktopApp = "Desktop";
 constexpr const char* kDefaultGroup = "Default";
 } // namespace
 
-HotspotRec DefaultHotspot(int screenWidth, int screenHeight) {
+HotspotRec DefaultHotspot(int screenWidth, int screenHeight, const MenuTable& menus) {
     HotspotRec hotspot;
+    if (menus.MenuCount() >= 1) {
+        hotspot.Type = kShowMenu;
+        hotspot.Menupath1 = menus.menus[1].NAME;
+    }
     hotspot.x1 = kDefaultLeft;
     hotspot.x2 = static_cast<std::int16_t>(screenWidth);
     hotspot.y1 = 0;
@@ -30,9 +34,10 @@ bool DeclaresHotspots(const ProfileSection& section) {
     return false;
 }
 
-void EnsureDefaultHotspot(std::vector<HotspotRec>& hotSpots, bool declared, int screenWidth, int screenHeight) {
+void EnsureDefaultHotspot(std::vector<HotspotRec>& hotSpots, bool declared, int screenWidth, int screenHeight,
+                          const MenuTable& menus) {
     if (!declared || hotSpots.empty())
-        hotSpots = {DefaultHotspot(screenWidth, screenHeight)};
+        hotSpots = {DefaultHotspot(screenWidth, screenHeight, menus)};
 }
 
 std::uint8_t MenuKindOf(std::uint8_t type) {

@@ -24,15 +24,18 @@ inline constexpr std::uint8_t kShowTasklist = 4;
 
 // The hotspot there is when the settings hold none: the desktop from x = 48 to the
 // screen's width and over its whole height, on a left click, in group "Default". The
-// 48-pixel strip on the left keeps the column of desktop icons clickable.
-HotspotRec DefaultHotspot(int screenWidth, int screenHeight);
+// 48-pixel strip on the left keeps the column of desktop icons clickable. It shows the
+// first menu of the menu file, so that a click on the desktop opens the menus from the
+// first start; without menus it shows a folder, as a hotspot without a target does.
+HotspotRec DefaultHotspot(int screenWidth, int screenHeight, const MenuTable& menus);
 
 // Whether a settings section holds hotspots at all: a section without the NoOfHotSpots
 // key holds none, even though loading leaves one blank record for index 0.
 bool DeclaresHotspots(const ProfileSection& section);
 
 // Puts the default hotspot in place of the loaded records when the section held none.
-void EnsureDefaultHotspot(std::vector<HotspotRec>& hotSpots, bool declared, int screenWidth, int screenHeight);
+void EnsureDefaultHotspot(std::vector<HotspotRec>& hotSpots, bool declared, int screenWidth, int screenHeight,
+                          const MenuTable& menus);
 
 // The menu window's content kind for an action type: 0->2, 1->3, 2->0, 3->1, and 4 and
 // above unchanged. The window interprets the converted value, so the mapping is fixed.

@@ -105,13 +105,14 @@ void Form1::LoadSettings() {
     ProgramValues& values = program_.values;
     values.ShellFolders = SettingsStore::ReadProgramFolders(values.WindowsFolder, values.IsNT);
     SettingsStore::Load(SettingsFile(values), false, program_.settings);
-    HotspotOpening::EnsureDefaultHotspot(program_, SettingsFile(values));
 }
 
 void Form1::LoadMenus() {
     const ProgramValues& values = program_.values;
     MenuStore::LoadMenusAtStartup(program_.menus, values.ProgramFolder, values.SystemFolder, values.ShellFolders,
                                   program_.settings);
+    // After the menus: the default hotspot shows the first of them.
+    HotspotOpening::EnsureDefaultHotspot(program_, SettingsFile(values));
 }
 
 // No menu window open and no hotspot waiting to be fired.

@@ -65,7 +65,7 @@ void OpenMenuOfHotspot(Program& program, int hotspotIndex) {
 void EnsureDefaultHotspot(Program& program, std::string_view settingsFile) {
     bool declared = Hotspots::DeclaresHotspots(IniHandler::ReadWholeSection(kSettingsSection, settingsFile));
     Hotspots::EnsureDefaultHotspot(program.settings.HotSpots, declared, ::GetSystemMetrics(SM_CXSCREEN),
-                                   ::GetSystemMetrics(SM_CYSCREEN));
+                                   ::GetSystemMetrics(SM_CYSCREEN), program.menus);
 }
 
 } // namespace HotspotOpening

@@ -29,7 +29,8 @@ Form2* OpenHotspotMenu(Program& program, int hotspotIndex, MenuWindow::Point ori
 // task list open anything here; programs and commands are run by the dispatch.
 void OpenMenuOfHotspot(Program& program, int hotspotIndex);
 
-// The settings file held no hotspots: the default one takes their place, on this screen.
+// The settings file held no hotspots: the default one takes their place, on this screen,
+// showing the first of the menus loaded.
 void EnsureDefaultHotspot(Program& program, std::string_view settingsFile);
 
 } // namespace HotspotOpening

@@ -103,6 +103,19 @@ TEST_F(Hotspots, ADesktopClickOpensTheMenuAtTheCursorAndTheNextClickClosesIt) {
     EXPECT_TRUE(Shows({})) << "firing the hotspot again closes its menu";
 }
 
+TEST_F(Hotspots, WithoutHotspotsInTheSettingsADesktopClickOpensTheFirstMenu) {
+    ASSERT_TRUE(folder.ready());
+    folder.WriteSettings("[TARVEX]\nGenShowInTray=False\n");
+    folder.WriteMenus(MenuFileText(MenusNamed({"Programs", "Tools"})));
+    ASSERT_TRUE(tarvex.Start(folder));
+    ASSERT_TRUE(tarvex.WaitUntilReady());
+    ASSERT_TRUE(Click(400, 300));
+    ASSERT_TRUE(Shows({"Programs"}));
+    RECT menu = MenuRect("Programs");
+    EXPECT_EQ(menu.left, 0);
+    EXPECT_EQ(menu.top, 0);
+}
+
 TEST_F(Hotspots, PushingIntoACornerOpensItsMenuOncePerVisit) {
     ASSERT_NO_FATAL_FAILURE(Start({Spot("Programs", 0), Spot("Corner", 3)}, MenusNamed({"Programs", "Corner"})));
     ASSERT_TRUE(MoveMouse(0, 0));

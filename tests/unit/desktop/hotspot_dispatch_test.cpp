@@ -102,7 +102,7 @@ TEST(HotKeys, TheGeneralHotKeyIsCtrlOrShiftWithItsKeyWhenSwitchedOn) {
 }
 
 TEST(ChooseHotspot, ClicksTakeTheFirstHotspotOfTheirWindowWhoseRectangleHoldsThePoint) {
-    std::vector<HotspotRec> hotSpots = {DefaultHotspot(1024, 768), Rectangle("Notepad", kRightClick, 10, 20, 30, 40),
+    std::vector<HotspotRec> hotSpots = {DefaultHotspot(1024, 768, MenuTable{}), Rectangle("Notepad", kRightClick, 10, 20, 30, 40),
                                         Rectangle("Desktop", kRightClick, 0, 0, 100, 100),
                                         Rectangle("Desktop", kLeftClick, 40, 0, 0, 768)};
     struct Case {

@@ -28,7 +28,7 @@ HotspotRec ShowMenu(const char* name) {
 
 } // namespace
 
-TEST(DefaultHotspot, CoversTheDesktopRightOfTheIconColumnOnALeftClick) {
+TEST(DefaultHotspot, CoversTheDesktopRightOfTheIconColumnOnALeftClickShowingTheFirstMenu) {
     HotspotRec expected;
     expected.x1 = 48;
     expected.x2 = 1024;
@@ -36,7 +36,10 @@ TEST(DefaultHotspot, CoversTheDesktopRightOfTheIconColumnOnALeftClick) {
     expected.App = "Desktop";
     expected.GroupName = "Default";
     expected.MouseButton = 0; // left click
-    EXPECT_EQ(DefaultHotspot(1024, 768), expected);
+    EXPECT_EQ(DefaultHotspot(1024, 768, MenuTable{}), expected) << "no menus: a folder hotspot without a target";
+    expected.Type = kShowMenu;
+    expected.Menupath1 = "Main";
+    EXPECT_EQ(DefaultHotspot(1024, 768, Menus({"Main", "Tools"})), expected);
 }
 
 TEST(DeclaresHotspots, OnlyASectionWithTheCountKeyHoldsHotspots) {
@@ -47,17 +50,18 @@ TEST(DeclaresHotspots, OnlyASectionWithTheCountKeyHoldsHotspots) {
 }
 
 TEST(EnsureDefaultHotspot, ReplacesTheBlankRecordOfSettingsWithoutHotspotsButKeepsDeclaredOnes) {
+    const MenuTable menus;
     std::vector<HotspotRec> blank(1);
-    EnsureDefaultHotspot(blank, false, 800, 600);
-    EXPECT_EQ(blank, std::vector<HotspotRec>{DefaultHotspot(800, 600)});
+    EnsureDefaultHotspot(blank, false, 800, 600, menus);
+    EXPECT_EQ(blank, std::vector<HotspotRec>{DefaultHotspot(800, 600, menus)});
     std::vector<HotspotRec> loaded(2);
     loaded[1].App = "Notepad";
     std::vector<HotspotRec> kept = loaded;
-    EnsureDefaultHotspot(loaded, true, 800, 600);
+    EnsureDefaultHotspot(loaded, true, 800, 600, menus);
     EXPECT_EQ(loaded, kept);
     std::vector<HotspotRec> none;
-    EnsureDefaultHotspot(none, true, 800, 600);
-    EXPECT_EQ(none, std::vector<HotspotRec>{DefaultHotspot(800, 600)});
+    EnsureDefaultHotspot(none, true, 800, 600, menus);
+    EXPECT_EQ(none, std::vector<HotspotRec>{DefaultHotspot(800, 600, menus)});
 }
 
 TEST(FillCascadeRecord, CopiesTheHotspotKeepingTheRecordsIdentifier) {

@@ -98,7 +98,7 @@ TEST_F(HotspotOpeningTest, TheDefaultHotspotReplacesASettingsFileWithoutHotspots
     program.settings.HotSpots = std::vector<HotspotRec>(1);
     HotspotOpening::EnsureDefaultHotspot(program, file);
     EXPECT_EQ(program.settings.HotSpots, std::vector<HotspotRec>{Hotspots::DefaultHotspot(
-                                             ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN))});
+                                             ::GetSystemMetrics(SM_CXSCREEN), ::GetSystemMetrics(SM_CYSCREEN), program.menus)});
 
     TestSupport::WriteBytes(file, "[TARVEX]\r\nNoOfHotSpots=0\r\n");
     program.settings.HotSpots = std::vector<HotspotRec>(1);
