@@ -229,19 +229,3 @@ TEST_F(StartupMenu, AFolderHotspotListsAnEmptyFolderAsEmpty) {
     EXPECT_TRUE(WaitForNoVisibleWindow(kDialogClass, tarvex_.processId(), 0ms)) << "\"(Empty)\" starts nothing";
     EXPECT_TRUE(WaitForVisibleWindow(kMenuClass, tarvex_.processId(), 0ms)) << "and leaves the menu open";
 }
-
-TEST_F(StartupMenu, AFolderHotspotListsTheFolder) {
-    ASSERT_TRUE(folder_.ready());
-    std::string tools = folder_.File("Tools");
-    ASSERT_TRUE(::CreateDirectoryW(Win::Widen(tools).c_str(), nullptr));
-    ASSERT_TRUE(::CreateDirectoryW(Win::Widen(tools + "\\Games").c_str(), nullptr));
-    folder_.WriteBytes("Tools\\notes.txt", "x");
-    folder_.WriteBytes("Tools\\setup.exe", "x");
-    std::string hotspot = "HotSpot0Type=0\nHotSpot0Menupath1=" + tools + "\n";
-    std::optional<WindowInfo> menu = Start(Settings(hotspot, ""), MenuFile(kLabels));
-    ASSERT_TRUE(menu);
-    Screenshot("folder");
-    const RECT& r = menu->rect;
-    EXPECT_EQ(menu->title, "Tools");
-    EXPECT_EQ(Height(r), kTitleHeight + 3 * kButtonHeight);
-}

@@ -65,13 +65,6 @@ protected:
 
 } // namespace
 
-TEST_F(Form2Choosing, AClickOnAProgramStartsItAndClosesTheMenus) {
-    Click(1, PointOf(1));
-    EXPECT_EQ(choices.calls, std::vector<std::string>{"program notepad.exe"});
-    EXPECT_EQ(openMenus.Count(), 0);
-    EXPECT_FALSE(::IsWindow(hwnd));
-}
-
 TEST_F(Form2Choosing, AReleaseOnAnotherItemOrOutsideChoosesNothing) {
     Click(1, PointOf(2));
     Click(1, MAKELPARAM(5, form->scene().layout.window.height + 40));
@@ -135,26 +128,4 @@ TEST_F(Form2Choosing, CtrlWithAnItemsHotKeyChoosesItOnKeyUp) {
     keys[VK_CONTROL] = 0;
     ::SetKeyboardState(keys);
     EXPECT_EQ(choices.calls, std::vector<std::string>{"program notepad.exe"});
-}
-
-TEST_F(Form2Choosing, AMenuThatOpensItselfOpensANewWindowEachTime) {
-    int loop = AddMenu("Loop", {"Again"});
-    ItemOf(loop, 0).TYPE = kItemMenuName;
-    ItemOf(loop, 0).PATH = "Loop";
-    openMenus.CloseAll();
-    form = Open(MenuRecord(loop));
-    ASSERT_TRUE(form);
-    for (int level = 1; level <= 3; ++level) {
-        Form2* deepest = openMenus.WindowOf(openMenus.records().At(level).id);
-        hwnd = deepest->hwnd();
-        form = deepest;
-        Click(1, PointOf(1));
-        ASSERT_EQ(openMenus.Count(), level + 1);
-    }
-    std::vector<int> levels;
-    for (int index = 1; index <= openMenus.Count(); ++index)
-        levels.push_back(openMenus.records().At(index).level);
-    EXPECT_EQ(levels, (std::vector<int>{1, 2, 3, 4}));
-    openMenus.CloseWithSubMenus(openMenus.records().At(2).id);
-    EXPECT_EQ(openMenus.Count(), 1) << "a sub-menu closes with every menu below it";
 }
