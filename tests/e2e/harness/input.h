@@ -26,8 +26,8 @@ bool Drag(int fromX, int fromY, int toX, int toY);
 bool ClickWindow(HWND hwnd);
 // Presses and releases one key.
 void PressKey(WORD virtualKey);
-// A modifier and a key pressed together, held for a moment and let go; nothing here
-// asks for the keys' state, which would take the "pressed since" mark the program reads.
+// A modifier and a key pressed together, held for a moment and let go: a hot key tapped
+// more briefly than the program's 100 ms look at the hot keys.
 void TapKeys(WORD modifier, WORD virtualKey, Duration hold);
 
 // Holds a key down for as long as the object lives: a click with Ctrl held.
