@@ -47,8 +47,11 @@ void HotKeyWatch::Sample(const SettingsRec& settings, const KeyDown& down) {
     }
 }
 
+// One that fired and is still down is no new press: noted, it would fire again on the
+// next look although it was let go in between.
 void HotKeyWatch::Note(HotKey hotKey, const KeyDown& down) {
-    if (IsDown(hotKey, down) && std::find(pressed_.begin(), pressed_.end(), hotKey) == pressed_.end())
+    bool noted = std::find(pressed_.begin(), pressed_.end(), hotKey) != pressed_.end();
+    if (held_ != hotKey && !noted && IsDown(hotKey, down))
         pressed_.push_back(hotKey);
 }
 

@@ -90,6 +90,11 @@ TEST(HotKeys, AHotKeyTappedBetweenTwoLooksFiresAndOneLetGoFiresAgain) {
     watch.Sample(settings, Keys({kControlKey}));
     watch.Sample(settings, Keys({kF5}));
     EXPECT_EQ(look(none), std::nullopt) << "Ctrl and then F5 alone are not the hot key";
+    watch.Sample(settings, ctrlF5);
+    EXPECT_EQ(look(ctrlF5), 0);
+    watch.Sample(settings, ctrlF5);
+    watch.Sample(settings, none);
+    EXPECT_EQ(look(none), std::nullopt) << "a tap still down after the look that fired it fires once";
 }
 
 TEST(HotKeys, TheGeneralHotKeyIsCtrlOrShiftWithItsKeyWhenSwitchedOn) {
