@@ -90,6 +90,8 @@ std::string MenuTitle(const CascadeRec& record, const MenuTable& menus) {
     }
     if (record.kind == kItemFolderPath)
         return FolderName(record.path);
+    if (record.kind == kItemTaskList)
+        return std::string(kTaskListTitle);
     return {};
 }
 

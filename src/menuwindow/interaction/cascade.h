@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace MenuWindow {
@@ -86,7 +87,9 @@ private:
 };
 
 // The name a window shows in its title bar and as its window text: the caption it was
-// given, else a menu's own name, else the name of the folder it lists.
+// given (a task list opened by an item takes the item's label), else a menu's own name,
+// else the name of the folder it lists, else for the running tasks "Tasklist".
+inline constexpr std::string_view kTaskListTitle = "Tasklist";
 std::string MenuTitle(const CascadeRec& record, const MenuTable& menus);
 
 // What a folder window lists: its folder (and, for a sub-menu, the second folder), each

@@ -14,13 +14,14 @@
 
 namespace MenuWindow {
 
-enum class MenuTimer { Scroll, DropDown, DoubleClick, FlashSelBar, SetForeground };
+enum class MenuTimer { Scroll, DropDown, DoubleClick, FlashSelBar, SetForeground, UpdateTaskList };
 
 inline constexpr int kDoubleClickInterval = 500; // a folder's second click opens the folder itself
 inline constexpr int kFlashInterval = 40;
 inline constexpr int kFlashTicks = 5;
 inline constexpr int kScrollPause = 250; // after the first step, as a held key pauses before repeating
 inline constexpr int kSetForegroundInterval = 500;
+inline constexpr int kUpdateTaskListInterval = 1000; // a task-list menu takes the running tasks again
 
 struct TimerOrder {
     MenuTimer timer = MenuTimer::Scroll;

@@ -29,6 +29,8 @@ CascadeRec SubMenuRecord(const CascadeRec& parent, const MenuScene& scene, int i
     record.path = entry.PATH;
     if (entry.TYPE == kItemMenuName)
         record.menuNumber = DataManager::MenuNumberByName(menus, entry.PATH);
+    if (entry.TYPE == kItemTaskList)
+        record.caption = entry.LABEL;
     if (entry.TYPE == kItemFolderPath) {
         record.path2 = entry.ARG;
         record.menuType = entry.RUNSTATE;

@@ -88,6 +88,34 @@ DisplayList FolderList(FolderListing listing) {
     return list;
 }
 
+DisplayList TaskList(const std::vector<Tasks::TaskEntry>& tasks) {
+    DisplayList list;
+    for (const Tasks::TaskEntry& task : tasks) {
+        DisplayEntry& entry = list.entries.emplace_back();
+        entry.LABEL = task.title;
+        entry.TYPE = kItemFilename;
+        entry.PATH = task.exePath;
+        entry.ICONPATH = task.exePath; // the program's own icon, not the shell's for programs
+        entry.taskWindow = task.window;
+    }
+    if (list.entries.empty()) {
+        list.entries.emplace_back().LABEL = kEmptyLabel;
+        list.empty = true;
+    }
+    return list;
+}
+
+ListChange ChangeBetween(const DisplayList& before, const DisplayList& now) {
+    ListChange change;
+    change.length = before.Count() != now.Count() || before.empty != now.empty;
+    if (change.length)
+        return change;
+    for (int item = 1; item <= now.Count(); ++item)
+        if (!(before.Item(item) == now.Item(item)))
+            change.items.push_back(item);
+    return change;
+}
+
 bool OpensSubMenu(std::uint8_t type) {
     return type == kItemFolderPath || type == kItemMenuName || type == kItemTaskList;
 }
@@ -125,6 +153,10 @@ std::optional<IconSource> IconSourceOf(const DisplayEntry& entry) {
         }
         return IconSource{WithoutQuotes(path), 0, false};
     }
+    return ShellIconSourceOf(entry);
+}
+
+std::optional<IconSource> ShellIconSourceOf(const DisplayEntry& entry) {
     if ((entry.TYPE == kItemFilename || entry.TYPE == kItemFolderPath) && !entry.PATH.empty())
         return IconSource{WithoutQuotes(entry.PATH), 0, true};
     return std::nullopt;

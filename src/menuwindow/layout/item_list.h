@@ -2,6 +2,7 @@
 // the painting need to know of each entry.
 #pragma once
 
+#include "desktop/task_filter.h"
 #include "menus/display_entry.h"
 #include "menus/folder_listing.h"
 #include "menus/menu_records.h"
@@ -36,6 +37,19 @@ DisplayList MenuItemsList(const MenuTable& table, int menuNumber);
 
 DisplayList FolderList(FolderListing listing);
 
+// The running tasks, each entry carrying its window and, as its file, the program that
+// owns it (which gives the entry its icon and its properties); "(Empty)" when none runs.
+DisplayList TaskList(const std::vector<Tasks::TaskEntry>& tasks);
+
+// How a list that is taken again (an open task-list menu) changed: in its length, which
+// lays the whole window out again, or in some items (1-based), which may be repainted alone.
+struct ListChange {
+    bool length = false;
+    std::vector<int> items;
+    bool None() const { return !length && items.empty(); }
+};
+ListChange ChangeBetween(const DisplayList& before, const DisplayList& now);
+
 // Items that open a sub-menu: folders, menus and the task list.
 bool OpensSubMenu(std::uint8_t type);
 
@@ -60,5 +74,8 @@ struct IconSource {
 
 // None for an item that names no file: an internal command, a menu, the task list.
 std::optional<IconSource> IconSourceOf(const DisplayEntry& entry);
+// The shell's icon for the file or folder that PATH names: also what an item shows when
+// its ICONPATH gives no icon.
+std::optional<IconSource> ShellIconSourceOf(const DisplayEntry& entry);
 
 } // namespace MenuWindow

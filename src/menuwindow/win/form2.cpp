@@ -21,7 +21,7 @@ MenuWindow::Point PointOf(LPARAM lParam) {
 
 constexpr MenuWindow::MenuTimer kTimers[] = {MenuWindow::MenuTimer::Scroll, MenuWindow::MenuTimer::DropDown,
                                              MenuWindow::MenuTimer::DoubleClick, MenuWindow::MenuTimer::FlashSelBar,
-                                             MenuWindow::MenuTimer::SetForeground};
+                                             MenuWindow::MenuTimer::SetForeground, MenuWindow::MenuTimer::UpdateTaskList};
 
 } // namespace
 
@@ -52,6 +52,8 @@ bool Form2::Create() {
         return false;
     SetLocalVariables();
     PaintMenu();
+    if (Record().kind == kItemTaskList)
+        ::SetTimer(hwnd, TimerId(MenuWindow::MenuTimer::UpdateTaskList), MenuWindow::kUpdateTaskListInterval, nullptr);
     return true;
 }
 
@@ -146,6 +148,8 @@ void Form2::Form_Timer(UINT_PTR timer) {
         Apply(interaction_.FlashTick());
     else if (timer == TimerId(MenuTimer::SetForeground))
         tmrSetForeground_Timer();
+    else if (timer == TimerId(MenuTimer::UpdateTaskList))
+        tmrUpdateTaskList_Timer();
 }
 
 void Form2::CloseCascade() {

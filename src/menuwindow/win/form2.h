@@ -138,8 +138,12 @@ private:
 
     MenuWindow::CascadeRec& Record();
     MenuWindow::DisplayList BuildItemList();
-    // Lays out, places and paints the window around a display list.
+    // Lays out, places and paints the window around a display list, in fonts made anew.
     void Rebuild(MenuWindow::DisplayList list);
+    MenuWindow::MenuScene LayOut(MenuWindow::DisplayList list, int dpi);
+    // Places and paints the window around the scene.
+    void Present();
+    void tmrUpdateTaskList_Timer();
     void Place();
     void PaintSurface();
     void ApplyOutline();

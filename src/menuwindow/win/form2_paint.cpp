@@ -2,6 +2,7 @@
 // moves, the scroll buttons, and copying the off-screen picture to the screen.
 #include "menuwindow/win/form2.h"
 
+#include "desktop/win/task_windows.h"
 #include "menuwindow/layout/menu_position.h"
 #include "menuwindow/layout/outline.h"
 #include "menuwindow/paint/paint_button.h"
@@ -19,10 +20,15 @@ void Form2::PaintMenu() {
 }
 
 void Form2::Rebuild(DisplayList list) {
-    CascadeRec& record = Record();
     int dpi = ScreenDpi();
-    Rect workArea = WorkAreaAt(OpeningPoint(record));
     fonts_.Build(look_, dpi);
+    pictures_.List(PictureFolderPath(look_.BitmapsFolder, programFolder_));
+    scene_ = LayOut(std::move(list), dpi);
+    Present();
+}
+
+MenuScene Form2::LayOut(DisplayList list, int dpi) {
+    CascadeRec& record = Record();
     SceneRequest request;
     request.look = look_;
     request.list = std::move(list);
@@ -31,16 +37,19 @@ void Form2::Rebuild(DisplayList list) {
     request.rotated = record.rotated;
     request.inactive = inactive_;
     request.dpi = dpi;
-    request.workArea = workArea;
+    request.workArea = WorkAreaAt(OpeningPoint(record));
     request.first = record.firstVisible;
-    pictures_.List(PictureFolderPath(look_.BitmapsFolder, programFolder_));
     request.pictures = pictures_.Names();
-    scene_ = BuildScene(std::move(request), fonts_);
+    return BuildScene(std::move(request), fonts_);
+}
+
+void Form2::Present() {
+    CascadeRec& record = Record();
     record.firstVisible = scene_.view().first;
     icons_.Reset(scene_.list.Count(), scene_.metrics().iconSize);
 
     ::SetWindowTextW(window_.get(), Win::Widen(scene_.title).c_str());
-    Placement placement = PlaceMenu(record, scene_, workArea);
+    Placement placement = PlaceMenu(record, scene_, WorkAreaAt(OpeningPoint(record)));
     record.bounds = RectAt(placement.topLeft, scene_.layout.window);
     record.towardsStart = placement.towardsStart;
     Place();
@@ -52,6 +61,33 @@ void Form2::Rebuild(DisplayList list) {
         drawn_[static_cast<std::size_t>(item)] = StateOf(item, selection_, look_.SelBar);
     ApplyOutline();
     Invalidate({0, 0, scene_.layout.window.width, scene_.layout.window.height});
+}
+
+// A task-list menu takes the running tasks again: a task that came or went lays the
+// window out anew; a task that only changed (its title, mostly) repaints its own button,
+// unless the new title changes the menu's size.
+void Form2::tmrUpdateTaskList_Timer() {
+    DisplayList now = TaskList(TaskWindows::ListTasks());
+    ListChange change = ChangeBetween(scene_.list, now);
+    if (change.None())
+        return;
+    if (change.length) {
+        Apply(interaction_.ClearBar());
+        icons_.Clear();
+        Rebuild(std::move(now));
+        return;
+    }
+    MenuScene next = LayOut(std::move(now), scene_.dpi);
+    bool sameSize = next.layout.window == scene_.layout.window;
+    scene_ = std::move(next);
+    for (int item : change.items)
+        icons_.Forget(item);
+    if (!sameSize) {
+        Present();
+        return;
+    }
+    for (int item : change.items)
+        ForceRedrawButton(item);
 }
 
 void Form2::Place() {

@@ -57,8 +57,16 @@ HICON ItemIcons::Get(int item, const DisplayEntry& entry) {
     if (!slot) {
         std::optional<IconSource> source = IconSourceOf(entry);
         slot = source ? LoadItemIcon(*source, size_) : Win::UniqueIcon();
+        std::optional<IconSource> shell = ShellIconSourceOf(entry);
+        if (!*slot && shell && shell != source)
+            slot = LoadItemIcon(*shell, size_);
     }
     return slot->get();
+}
+
+void ItemIcons::Forget(int item) {
+    if (item >= 1 && item <= static_cast<int>(icons_.size()))
+        icons_[static_cast<std::size_t>(item - 1)].reset();
 }
 
 void ItemIcons::Clear() {

@@ -25,6 +25,9 @@ public:
     // The icon of an item (1-based), taken on the first call; null when it has none.
     HICON Get(int item, const DisplayEntry& entry);
 
+    // Lets an item's icon go: its entry changed.
+    void Forget(int item);
+
     // Lets every icon go.
     void Clear();
 

@@ -6,9 +6,9 @@
 #include "harness/input.h"
 #include "harness/menu_files.h"
 #include "harness/menu_window.h"
+#include "harness/other_program.h"
 #include "harness/program_folder.h"
 #include "harness/tarvex.h"
-#include "win/handles.h"
 #include "win/text_convert.h"
 
 #include <gtest/gtest.h>
@@ -173,21 +173,13 @@ TEST_F(Hotspots, HotKeysTappedBrieflyAndAMiddleClickAnywhereFireTheirHotspots) {
 }
 
 TEST_F(Hotspots, ARightClickInAnotherProgramsWindowOpensItsHotspotRelativeToThatWindow) {
-    STARTUPINFOW startup{};
-    startup.cb = sizeof startup;
-    PROCESS_INFORMATION info{};
-    std::wstring commandLine = L"notepad.exe";
-    ASSERT_TRUE(::CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                                 &info));
-    ::CloseHandle(info.hThread);
-    Win::UniqueKernelHandle notepad(info.hProcess);
-    std::optional<WindowInfo> editor = WaitForVisibleWindow("Notepad", info.dwProcessId, 20s);
-    ASSERT_TRUE(editor) << "notepad did not start";
-    ASSERT_TRUE(::SetWindowPos(editor->hwnd, nullptr, 200, 150, 500, 400, SWP_NOZORDER));
-    ASSERT_TRUE(WaitUntil([&] { return DescribeWindow(editor->hwnd).rect.left == 200; }, 5s));
+    OtherProgram notepad;
+    ASSERT_TRUE(notepad.Start(L"notepad.exe", "Notepad")) << "notepad did not start";
+    ASSERT_TRUE(::SetWindowPos(notepad.hwnd(), nullptr, 200, 150, 500, 400, SWP_NOZORDER));
+    ASSERT_TRUE(WaitUntil([&] { return DescribeWindow(notepad.hwnd()).rect.left == 200; }, 5s));
 
     TestHotspot inEditor = Spot("Editor", 2, 40, 60);
-    inEditor.app = editor->title;
+    inEditor.app = notepad.window().title;
     inEditor.x1 = 0;
     inEditor.y1 = 0;
     ASSERT_NO_FATAL_FAILURE(Start({Spot("Programs", 0), inEditor}, MenusNamed({"Programs", "Editor"})));
@@ -201,7 +193,6 @@ TEST_F(Hotspots, ARightClickInAnotherProgramsWindowOpensItsHotspotRelativeToThat
     EXPECT_EQ(menu.left, 240);
     EXPECT_EQ(menu.top, 210);
     EXPECT_TRUE(SaveNamedScreenshot("hotspots-in-notepad"));
-    ::TerminateProcess(notepad.get(), 0);
 }
 
 TEST_F(Hotspots, AHotspotClosesTheOpenMenuOfItsGroupButAnAlwaysOpenMenuStays) {

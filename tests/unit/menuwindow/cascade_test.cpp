@@ -37,6 +37,10 @@ TEST(MenuTitle, TheCaptionElseTheMenusNameElseTheFoldersName) {
     folder.kind = kItemFolderPath;
     folder.path = "C:\\Program Files\\Tools\\";
     EXPECT_EQ(MenuTitle(folder, menus), "Tools");
+
+    CascadeRec tasks;
+    tasks.kind = kItemTaskList;
+    EXPECT_EQ(MenuTitle(tasks, menus), "Tasklist");
 }
 
 TEST(FolderRequestOf, FoldersEndInABackslashAndTheFilterIsKnown) {

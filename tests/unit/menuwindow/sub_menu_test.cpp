@@ -37,7 +37,7 @@ TEST(SubMenuRecord, NamesWhatTheItemOpensAndTheButtonItStandsBeside) {
         menus.menus.emplace_back().NAME = name;
     DisplayList list;
     list.entries = {Entry("Tools", kItemMenuName, "Tools"), Entry("Gone", kItemMenuName, "Nowhere"),
-                    Entry("Docs", kItemFolderPath, "C:\\Docs")};
+                    Entry("Docs", kItemFolderPath, "C:\\Docs"), Entry("Running", kItemTaskList, "")};
     list.entries[2].ARG = "D:\\More docs";
     list.entries[2].RUNSTATE = kFilterUserMask;
     list.entries[2].FILETYPEMASK = "txt";
@@ -68,6 +68,8 @@ TEST(SubMenuRecord, NamesWhatTheItemOpensAndTheButtonItStandsBeside) {
     EXPECT_EQ(docs.menuType, kFilterUserMask);
     EXPECT_EQ(docs.fileTypeMask, "txt");
     EXPECT_EQ(docs.skip, 0);
+
+    EXPECT_EQ(MenuTitle(SubMenuRecord(parent, scene, 4, menus), menus), "Running") << "the task list says what it lists";
 }
 
 TEST(SubMenuRecord, MorePagesOnFromTheEntriesThisWindowShowed) {
