@@ -7,6 +7,7 @@
 #include "core/win/program.h"
 #include "core/win/tray_icon.h"
 #include "desktop/win/hotspot_timers.h"
+#include "desktop/win/taskbar_replacement.h"
 #include "menus/win/menu_launcher.h"
 #include "win/form_window.h"
 #include "win/handles.h"
@@ -44,6 +45,7 @@ public:
 
     HWND hwnd() const { return window_.get(); }
     Program& program() { return program_; }
+    TaskbarReplacement& taskbarReplacement() { return taskbarReplacement_; }
 
 private:
     friend LRESULT CALLBACK Win::FormWindowProc<Form1>(HWND, UINT, WPARAM, LPARAM);
@@ -88,6 +90,7 @@ private:
     TrayIcon trayIcon_;
     MenuLauncher menuLauncher_{*this};
     HotspotTimers hotspotTimers_{*this};
+    TaskbarReplacement taskbarReplacement_{program_};
     std::optional<POINT> parkedAt_; // where ParkOffScreen put the form
     UINT taskbarCreatedMessage_ = 0;
     StartupRules::CommandLineWords commandLineWords_;

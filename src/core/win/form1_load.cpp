@@ -163,8 +163,9 @@ void Form1::HideDesktopIcons() {
     DesktopWindows::SetDesktopIcons(CommandActions::Visibility::Hide, program_.desktopChanges);
 }
 
-// The task list and systray issue fills this: it hides the taskbar, shows the systray copy and marks both.
-void Form1::HideTaskbarAndShowSystray() {}
+void Form1::HideTaskbarAndShowSystray() {
+    taskbarReplacement_.ReplaceTaskbar();
+}
 
 void Form1::OpenStartupHotspots() {
     const SettingsRec& settings = program_.settings;

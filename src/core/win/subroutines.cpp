@@ -23,9 +23,6 @@ bool AskExitQuestion(ProgramValues& values) {
     return ExitRules::ExitConfirmed(answer);
 }
 
-// The task list and systray issue fills this: it unloads the systray copy.
-void UnloadSystray() {}
-
 void CloseMenuWindows(Program& program) {
     program.openMenus.CloseAll();
 }
@@ -37,7 +34,7 @@ void RunExitStep(Form1& form1, ExitRules::ExitStep step) {
     ExitRules::DesktopChanges& changes = form1.program().desktopChanges;
     switch (step) {
     case ExitRules::ExitStep::PutBackTaskbar:
-        DesktopWindows::PutBackTaskbar(changes);
+        form1.taskbarReplacement().PutBackTray();
         break;
     case ExitRules::ExitStep::ShowTaskbar:
         DesktopWindows::SetTaskbar(CommandActions::Visibility::Show, changes);
@@ -49,7 +46,7 @@ void RunExitStep(Form1& form1, ExitRules::ExitStep step) {
         form1.Remove_TrayIcon();
         break;
     case ExitRules::ExitStep::UnloadSystray:
-        UnloadSystray();
+        form1.taskbarReplacement().Unload();
         break;
     case ExitRules::ExitStep::CloseMenuWindows:
         CloseMenuWindows(form1.program());

@@ -31,6 +31,4 @@ void SetDesktopIcons(CommandActions::Visibility visibility, ExitRules::DesktopCh
     SetShown(DesktopIcons(), visibility, changes.DesktopIconsHidden);
 }
 
-void PutBackTaskbar(ExitRules::DesktopChanges&) {}
-
 } // namespace DesktopWindows

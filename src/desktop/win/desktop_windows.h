@@ -17,8 +17,4 @@ HWND DesktopIcons();
 void SetTaskbar(CommandActions::Visibility visibility, ExitRules::DesktopChanges& changes);
 void SetDesktopIcons(CommandActions::Visibility visibility, ExitRules::DesktopChanges& changes);
 
-// Gives the notification area that the systray copy took back to the taskbar. The task
-// list and systray issue fills this; nothing takes the taskbar over before it.
-void PutBackTaskbar(ExitRules::DesktopChanges& changes);
-
 } // namespace DesktopWindows

@@ -43,7 +43,7 @@ void EndTheSession(Form1& form1, const Action& action) {
     for (SessionStep step : SessionSteps(program.desktopChanges, settings.GenShowInTray, action.mode, program.values.IsNT)) {
         switch (step) {
         case SessionStep::PutBackTaskbar:
-            DesktopWindows::PutBackTaskbar(program.desktopChanges);
+            form1.taskbarReplacement().PutBackTray();
             break;
         case SessionStep::ShowTaskbar:
             DesktopWindows::SetTaskbar(Visibility::Show, program.desktopChanges);
@@ -120,11 +120,15 @@ std::int16_t RunInternalCommand(Form1& form1, std::int16_t code) {
         if (!ShellActions::EjectMedia(action.drive))
             Warn(EjectFailedMessage(action.drive));
         break;
-    // The task list and the systray copy come with their own issue; until then these
-    // codes answer as codes that do nothing yet.
     case Kind::SystrayCopy:
+        form1.taskbarReplacement().SetSystray(action.visibility);
+        break;
     case Kind::TaskListWindow:
+        form1.taskbarReplacement().SetTaskList(action.visibility);
+        break;
     case Kind::TaskManagement:
+        form1.taskbarReplacement().SetTaskManagement(action.visibility);
+        break;
     case Kind::NotImplemented:
         Warn(kNotImplemented);
         break;

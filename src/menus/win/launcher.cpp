@@ -34,7 +34,8 @@ void PlayLaunchSound(const Program& program) {
                               conditions);
 }
 
-// Starts a command line in a window state (a show command); a failure is silent.
+} // namespace
+
 void StartCommandLine(std::string_view commandLine, int showCommand) {
     std::wstring line = Win::Widen(commandLine);
     STARTUPINFOW startup{};
@@ -47,8 +48,6 @@ void StartCommandLine(std::string_view commandLine, int showCommand) {
     Win::UniqueKernelHandle process(started.hProcess);
     Win::UniqueKernelHandle thread(started.hThread);
 }
-
-} // namespace
 
 void RunProgram(const Program& program, std::string_view title, std::string_view startFolder, std::string_view path,
                 std::string_view arguments, int runState) {

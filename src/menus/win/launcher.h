@@ -24,6 +24,9 @@ void RunProgram(const Program& program, std::string_view title, std::string_view
 // its result, or starts anything else as a command line and returns -1.
 std::int16_t RunCommand(Form1& form1, std::string_view value);
 
+// Starts a command line in a window state (a show command); a failure is silent.
+void StartCommandLine(std::string_view commandLine, int showCommand);
+
 // True when the window is, or became, the foreground window.
 bool ActivateTaskWindow(HWND window);
 
