@@ -3,6 +3,7 @@
 #include "desktop/win/desktop_windows.h"
 #include "menuwindow/look/pictures.h"
 #include "menuwindow/win/screen_area.h"
+#include "win/form_window.h"
 
 namespace DesktopBarsWin {
 
@@ -19,6 +20,35 @@ void BarSurface::Paint(HWND window, MenuWindow::Size size, const MenuWindow::Dra
     MenuWindow::Render(picture_.dc(), ops, fonts_, icons ? icons : [](int) -> HICON { return nullptr; },
                        [this](HDC dc, const MenuWindow::PictureOp& op) { pictures_.Draw(dc, op); });
     ::InvalidateRect(window, nullptr, FALSE);
+}
+
+std::optional<LRESULT> CommonMessage(HWND window, UINT message, const BarSurface& surface) {
+    switch (message) {
+    case WM_PAINT: {
+        Win::PaintDc paint(window);
+        surface.CopyTo(paint.get(), paint.area());
+        return 0;
+    }
+    case WM_ERASEBKGND:
+        return 1;
+    case WM_MOUSEACTIVATE:
+        return MA_NOACTIVATE; // the task the user works in stays the foreground window
+    case WM_CLOSE:
+        return 0;
+    default:
+        return std::nullopt;
+    }
+}
+
+bool RegisterBarClass(const wchar_t* className, WNDPROC procedure, UINT style) {
+    WNDCLASSEXW wc{};
+    wc.cbSize = sizeof wc;
+    wc.style = style;
+    wc.lpfnWndProc = procedure;
+    wc.hInstance = ::GetModuleHandleW(nullptr);
+    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    wc.lpszClassName = className;
+    return Win::RegisterFormClass(wc);
 }
 
 HWND CreateBarWindow(const wchar_t* className, void* form, bool onTop) {

@@ -12,6 +12,7 @@
 
 #include <windows.h>
 
+#include <optional>
 #include <string>
 
 namespace DesktopBarsWin {
@@ -36,6 +37,13 @@ private:
     MenuWindow::ThemePictures pictures_;
     MenuWindow::BackBuffer picture_;
 };
+
+// What every bar window answers alike: painting from the picture, no erasing, never taking
+// the activation on a click, and no closing but the program's own. None for other messages.
+std::optional<LRESULT> CommonMessage(HWND window, UINT message, const BarSurface& surface);
+
+// Registers a bar window's class with the arrow cursor.
+bool RegisterBarClass(const wchar_t* className, WNDPROC procedure, UINT style);
 
 // Creates a hidden bar window of a registered form class; it leaves its children (the
 // notification area) to paint themselves.

@@ -17,17 +17,6 @@ constexpr UINT_PTR kAutoHideTimer = 1;
 constexpr const char* kDateTimeApplet = "rundll32.exe shell32.dll,Control_RunDLL timedate.cpl";
 constexpr const char* kButtonIcon = "Systray.ico";
 
-bool RegisterBarClass(const wchar_t* className, WNDPROC procedure, UINT style) {
-    WNDCLASSEXW wc{};
-    wc.cbSize = sizeof wc;
-    wc.style = style;
-    wc.lpfnWndProc = procedure;
-    wc.hInstance = ::GetModuleHandleW(nullptr);
-    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-    wc.lpszClassName = className;
-    return Win::RegisterFormClass(wc);
-}
-
 // The time in the user's format without seconds, and the long date.
 std::pair<std::string, std::string> ClockTexts() {
     wchar_t time[80] = {};
@@ -48,7 +37,7 @@ frmSystray::~frmSystray() {
 bool frmSystray::Create() {
     if (window_)
         return true;
-    return RegisterBarClass(kClassName, Win::FormWindowProc<frmSystray>, CS_DBLCLKS) &&
+    return DesktopBarsWin::RegisterBarClass(kClassName, Win::FormWindowProc<frmSystray>, CS_DBLCLKS) &&
            DesktopBarsWin::CreateBarWindow(kClassName, this, program_.settings.SystrayAlwaysOnTop) != nullptr;
 }
 
@@ -163,14 +152,9 @@ void frmSystray::Repaint(bool force) {
 }
 
 LRESULT frmSystray::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (std::optional<LRESULT> common = DesktopBarsWin::CommonMessage(hwnd, message, surface_))
+        return *common;
     switch (message) {
-    case WM_PAINT: {
-        Win::PaintDc paint(hwnd);
-        surface_.CopyTo(paint.get(), paint.area());
-        return 0;
-    }
-    case WM_ERASEBKGND:
-        return 1;
     case WM_LBUTTONDBLCLK:
         if (layout_.clock.Contains({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}))
             Launcher::StartCommandLine(kDateTimeApplet, SW_SHOWNORMAL);
@@ -178,10 +162,6 @@ LRESULT frmSystray::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM
     case WM_TIMER:
         if (wParam == kClockTimer)
             tmrUpdateSystray_Timer();
-        return 0;
-    case WM_MOUSEACTIVATE:
-        return MA_NOACTIVATE;
-    case WM_CLOSE:
         return 0;
     default:
         return ::DefWindowProcW(hwnd, message, wParam, lParam);
@@ -193,7 +173,7 @@ LRESULT frmSystray::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM
 bool frmSystrayButton::Create(const Program& program) {
     if (window_)
         return true;
-    if (!RegisterBarClass(kClassName, Win::FormWindowProc<frmSystrayButton>, 0) ||
+    if (!DesktopBarsWin::RegisterBarClass(kClassName, Win::FormWindowProc<frmSystrayButton>, 0) ||
         !DesktopBarsWin::CreateBarWindow(kClassName, this, program.settings.SystrayAlwaysOnTop))
         return false;
     surface_.Prepare(program.settings, program.values.ProgramFolder);
@@ -261,24 +241,15 @@ void frmSystrayButton::Form_MouseUp() {
 }
 
 LRESULT frmSystrayButton::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (std::optional<LRESULT> common = DesktopBarsWin::CommonMessage(hwnd, message, surface_))
+        return *common;
     switch (message) {
-    case WM_PAINT: {
-        Win::PaintDc paint(hwnd);
-        surface_.CopyTo(paint.get(), paint.area());
-        return 0;
-    }
-    case WM_ERASEBKGND:
-        return 1;
     case WM_LBUTTONUP:
         Form_MouseUp();
         return 0;
     case WM_TIMER:
         if (wParam == kAutoHideTimer)
             tmrSystrayAutoHide_Timer();
-        return 0;
-    case WM_MOUSEACTIVATE:
-        return MA_NOACTIVATE;
-    case WM_CLOSE:
         return 0;
     default:
         return ::DefWindowProcW(hwnd, message, wParam, lParam);

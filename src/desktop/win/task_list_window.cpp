@@ -20,13 +20,7 @@ constexpr UINT_PTR kRefreshTimer = 1;
 bool frmTaskList::Create() {
     if (window_)
         return true;
-    WNDCLASSEXW wc{};
-    wc.cbSize = sizeof wc;
-    wc.lpfnWndProc = Win::FormWindowProc<frmTaskList>;
-    wc.hInstance = ::GetModuleHandleW(nullptr);
-    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-    wc.lpszClassName = kClassName;
-    return Win::RegisterFormClass(wc) &&
+    return DesktopBarsWin::RegisterBarClass(kClassName, Win::FormWindowProc<frmTaskList>, 0) &&
            DesktopBarsWin::CreateBarWindow(kClassName, this, program_.settings.TaskbarAlwaysOnTop) != nullptr;
 }
 
@@ -142,24 +136,15 @@ void frmTaskList::Form_Click(MenuWindow::Point point) {
 }
 
 LRESULT frmTaskList::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (std::optional<LRESULT> common = DesktopBarsWin::CommonMessage(hwnd, message, surface_))
+        return *common;
     switch (message) {
-    case WM_PAINT: {
-        Win::PaintDc paint(hwnd);
-        surface_.CopyTo(paint.get(), paint.area());
-        return 0;
-    }
-    case WM_ERASEBKGND:
-        return 1;
     case WM_LBUTTONUP:
         Form_Click({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
         return 0;
     case WM_TIMER:
         if (wParam == kRefreshTimer)
             tmrRefresh_Timer();
-        return 0;
-    case WM_MOUSEACTIVATE:
-        return MA_NOACTIVATE; // the task the user works in stays the foreground window
-    case WM_CLOSE:
         return 0;
     default:
         return ::DefWindowProcW(hwnd, message, wParam, lParam);
