@@ -83,8 +83,13 @@ std::int16_t RunCommand(Form1& form1, std::string_view value) {
 
 bool ActivateTaskWindow(HWND window) {
     HWND foreground = ::GetForegroundWindow();
-    if (foreground == window)
+    if (foreground == window) {
+        // A window minimised without being deactivated stays the foreground window; the
+        // user who picks it wants it back on screen all the same.
+        if (::IsIconic(window))
+            ::ShowWindow(window, SW_RESTORE);
         return true;
+    }
     bool brought = false;
     DWORD theirThread = ::GetWindowThreadProcessId(foreground, nullptr);
     DWORD ourThread = ::GetCurrentThreadId();

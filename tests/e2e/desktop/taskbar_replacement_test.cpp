@@ -179,6 +179,8 @@ TEST_F(TaskbarReplacement, TheTaskListWindowAndTheSystrayCopyComeAndGoByCommand)
     ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &workArea, 0);
     EXPECT_EQ(taskList->rect.bottom, workArea.bottom) << "the taskbar shows: the work area";
     EXPECT_TRUE(SaveNamedScreenshot("task-list-window"));
+    ASSERT_TRUE(Click(taskList->rect.left + 21, taskList->rect.top + 21));
+    EXPECT_TRUE(WaitUntil([&] { return !::IsIconic(notepad.hwnd()); }, 10s)) << "a click on notepad restores it";
     EXPECT_TRUE(Command(2, NotShowing(kTaskListClass))) << "*37 hides it";
 
     ASSERT_TRUE(Command(3, Showing(kSystrayClass)));
