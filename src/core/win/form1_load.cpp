@@ -26,6 +26,8 @@ Form1::LoadResult Form1::Form_Load() {
     ParkOffScreen();
     WorkOutProgramFolder();
     CreateProgramFolders();
+    // Before anything else changes the desktop: what a run that never reached its exit left.
+    DesktopWindows::PutBackLeftChanges(program_);
     values.WindowsFolder = SystemValues::WindowsFolder();
     values.SystemFolder = SystemValues::SystemFolder();
     values.IsNT = SystemValues::IsNT();
@@ -160,7 +162,7 @@ void Form1::ApplyDesktopSettings() {
 }
 
 void Form1::HideDesktopIcons() {
-    DesktopWindows::SetDesktopIcons(CommandActions::Visibility::Hide, program_.desktopChanges);
+    DesktopWindows::SetDesktopIcons(CommandActions::Visibility::Hide, program_);
 }
 
 void Form1::HideTaskbarAndShowSystray() {

@@ -31,16 +31,15 @@ void CloseMenuWindows(Program& program) {
 void UnloadOtherForms() {}
 
 void RunExitStep(Form1& form1, ExitRules::ExitStep step) {
-    ExitRules::DesktopChanges& changes = form1.program().desktopChanges;
     switch (step) {
     case ExitRules::ExitStep::PutBackTaskbar:
         form1.taskbarReplacement().PutBackTray();
         break;
     case ExitRules::ExitStep::ShowTaskbar:
-        DesktopWindows::SetTaskbar(CommandActions::Visibility::Show, changes);
+        DesktopWindows::SetTaskbar(CommandActions::Visibility::Show, form1.program());
         break;
     case ExitRules::ExitStep::ShowDesktopIcons:
-        DesktopWindows::SetDesktopIcons(CommandActions::Visibility::Show, changes);
+        DesktopWindows::SetDesktopIcons(CommandActions::Visibility::Show, form1.program());
         break;
     case ExitRules::ExitStep::RemoveTrayIcon:
         form1.Remove_TrayIcon();

@@ -46,10 +46,10 @@ void EndTheSession(Form1& form1, const Action& action) {
             form1.taskbarReplacement().PutBackTray();
             break;
         case SessionStep::ShowTaskbar:
-            DesktopWindows::SetTaskbar(Visibility::Show, program.desktopChanges);
+            DesktopWindows::SetTaskbar(Visibility::Show, program);
             break;
         case SessionStep::ShowDesktopIcons:
-            DesktopWindows::SetDesktopIcons(Visibility::Show, program.desktopChanges);
+            DesktopWindows::SetDesktopIcons(Visibility::Show, program);
             break;
         case SessionStep::RemoveTrayIcon:
             form1.Remove_TrayIcon();
@@ -99,10 +99,10 @@ std::int16_t RunInternalCommand(Form1& form1, std::int16_t code) {
         ShowHelp(program);
         break;
     case Kind::Taskbar:
-        DesktopWindows::SetTaskbar(action.visibility, program.desktopChanges);
+        DesktopWindows::SetTaskbar(action.visibility, program);
         break;
     case Kind::DesktopIcons:
-        DesktopWindows::SetDesktopIcons(action.visibility, program.desktopChanges);
+        DesktopWindows::SetDesktopIcons(action.visibility, program);
         break;
     case Kind::CdDoor:
         ShellActions::SendMediaCommand(CdDoorCommand(action.doorOpen));

@@ -99,6 +99,7 @@ void frmSystray::TakeNotifyArea() {
     ::SetParent(notify, window_.get());
     notifyArea_ = notify;
     program_.desktopChanges.TaskbarTakenOver = true;
+    DesktopWindows::RecordChanges(program_);
 }
 
 void frmSystray::GiveNotifyAreaBack() {
@@ -116,6 +117,7 @@ void frmSystray::GiveNotifyAreaBack() {
     notifyArea_ = nullptr;
     shellClock_ = nullptr;
     program_.desktopChanges.TaskbarTakenOver = false;
+    DesktopWindows::RecordChanges(program_);
 }
 
 void frmSystray::tmrUpdateSystray_Timer() {

@@ -21,13 +21,13 @@ void TaskbarReplacement::SetSystray(Visibility visibility) {
 void TaskbarReplacement::SetTaskManagement(Visibility visibility) {
     managing_ = CommandActions::ShowWindowFor(visibility, managing_);
     Visibility each = managing_ ? Visibility::Show : Visibility::Hide;
-    DesktopWindows::SetTaskbar(managing_ ? Visibility::Hide : Visibility::Show, program_.desktopChanges);
+    DesktopWindows::SetTaskbar(managing_ ? Visibility::Hide : Visibility::Show, program_);
     SetSystray(each);
     SetTaskList(each);
 }
 
 void TaskbarReplacement::ReplaceTaskbar() {
-    DesktopWindows::SetTaskbar(Visibility::Hide, program_.desktopChanges);
+    DesktopWindows::SetTaskbar(Visibility::Hide, program_);
     SetSystray(Visibility::Show);
 }
 

@@ -2,6 +2,7 @@
 // commands (*34 to *37, on hot keys) and with TaskbarRunOnStartup: they show and go, and
 // the shell's taskbar is left as it was. The taskbar is a stand-in of the test's with the
 // shell's notification area and clock inside, which Wine's has not.
+#include "harness/dialogs.h"
 #include "harness/failure_screenshots.h"
 #include "harness/input.h"
 #include "harness/menu_files.h"
@@ -211,4 +212,24 @@ TEST_F(TaskbarReplacement, AtStartTheTaskbarIsReplacedTheCopyCollapsesToItsButto
 
     ASSERT_TRUE(tarvex.ExitThroughTray());
     EXPECT_TRUE(TaskbarAsItWas());
+}
+
+TEST_F(TaskbarReplacement, AStartAfterTheProgramWasKilledPutsBackTheTaskbarAndSaysTheNotificationAreaIsLost) {
+    ASSERT_NO_FATAL_FAILURE(Start(HotspotSettings({TestHotspot{}}, "TaskbarRunOnStartup=True\n")));
+    ASSERT_TRUE(Shown(kSystrayClass));
+    ASSERT_FALSE(::IsWindowVisible(taskbar));
+    ASSERT_TRUE(tarvex.Kill());
+    ASSERT_FALSE(::IsWindow(notifyArea)) << "the notification area went with the program's window";
+
+    folder.WriteSettings(HotspotSettings({TestHotspot{}}));
+    Tarvex again;
+    ASSERT_TRUE(again.Start(folder));
+    std::optional<WindowInfo> box = WaitForMessageBox(again.processId());
+    ASSERT_TRUE(box) << "the user is told why the notification area is gone";
+    EXPECT_NE(DialogText(box->hwnd).find("Sign out and in again"), std::string::npos);
+    ASSERT_TRUE(PressButton(box->hwnd, "OK"));
+    ASSERT_TRUE(again.WaitUntilReady());
+    EXPECT_TRUE(::IsWindowVisible(taskbar)) << "the taskbar shows again";
+    EXPECT_FALSE(folder.Exists("DesktopChanges.ini")) << "and the next start has nothing to put back";
+    EXPECT_TRUE(again.ExitThroughTray());
 }

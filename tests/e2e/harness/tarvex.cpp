@@ -19,8 +19,11 @@ Tarvex::~Tarvex() {
     if (ExitThroughTray())
         return;
     ADD_FAILURE() << "tarvex2.exe did not end through its own exit and is killed";
-    ::TerminateProcess(process_.get(), 1);
-    WaitForExit(10s);
+    Kill();
+}
+
+bool Tarvex::Kill() {
+    return process_ && ::TerminateProcess(process_.get(), 1) && WaitForExit(10s);
 }
 
 bool Tarvex::Start(const ProgramFolder& folder, const std::string& arguments, const std::string& currentDirectory) {

@@ -54,6 +54,9 @@ public:
     // Exit from the tray menu, and Yes to the question. True when the process ended.
     bool ExitThroughTray();
 
+    // Ends the process at once, as a crash would: no exit of its own runs.
+    bool Kill();
+
 private:
     Win::UniqueKernelHandle process_;
     DWORD processId_ = 0;

@@ -22,3 +22,17 @@ TEST(ExitSteps, EveryChangeIsUndoneInItsOrderBeforeTheIconWhichGoesOnlyWhenShown
                ExitStep::UnloadSystray, ExitStep::CloseMenuWindows, ExitStep::UnloadForms}));
     EXPECT_EQ(ExitRules::ExitSteps({false, true, false}, false).front(), ExitStep::ShowTaskbar);
 }
+
+TEST(ChangesFile, KeepsEachChangeAndReadsBackOnlyATrueKey) {
+    using ExitRules::DesktopChanges;
+    for (DesktopChanges changes : {DesktopChanges{}, DesktopChanges{true, false, true}, DesktopChanges{false, true, false}}) {
+        ProfileSection section;
+        for (const ProfileWrite& write : ExitRules::ChangesWrites(changes))
+            section.push_back({write.key, write.value});
+        EXPECT_EQ(ExitRules::ChangesFrom(section), changes);
+    }
+    EXPECT_TRUE(ExitRules::ChangesWrites({}).empty()) << "no change, no file";
+    EXPECT_EQ(ExitRules::ChangesFrom({{"taskbarhidden", "TRUE"}, {"DesktopIconsHidden", "1"}, {"Other", "True"}}),
+              (DesktopChanges{false, true, false}));
+    EXPECT_EQ(ExitRules::PutBackSteps({true, false, true}), (Steps{ExitStep::PutBackTaskbar, ExitStep::ShowDesktopIcons}));
+}
