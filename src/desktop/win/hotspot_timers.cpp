@@ -140,33 +140,35 @@ void HotspotTimers::Timer3_Timer() {
 
 void HotspotTimers::Timer1_Timer() {
     Program& program = form1_.program();
-    if (!program.QuestionBusy && !program.RebuildBusy) {
-        Timer1Pause pause(*this);
-        Dispatch();
+    if (program.QuestionBusy || program.RebuildBusy) {
+        hotKeys_.EndTick(); // keys pressed while busy fire nothing afterwards
+        return;
     }
-    hotKeys_.EndTick();
+    Timer1Pause pause(*this);
+    if (Dispatch())
+        hotKeys_.EndTick();
 }
 
-void HotspotTimers::Dispatch() {
+bool HotspotTimers::Dispatch() {
     Program& program = form1_.program();
     KeysNow keys;
     Hotspots::KeyDown down = keys.AsKeyDown();
 
     if (std::optional<int> requested = Hotspots::TakeRequestedHotspot(program.RequestedHotspot)) {
         Fire(*requested, {0, 0}, CursorPoint());
-        return;
+        return false;
     }
     if (std::optional<Hotspots::HotKey> general = Hotspots::GeneralHotKey(program.settings)) {
         Hotspots::HotKeyWatch::State state = hotKeys_.Check(*general, down);
         if (state == Hotspots::HotKeyWatch::State::Pressed)
             form1_.OpenPreferences();
         if (state != Hotspots::HotKeyWatch::State::Up)
-            return;
+            return true;
     }
     if (!event_.PendingClick) {
         if (std::optional<int> hotspot = Hotspots::HotspotByHotKey(program.settings.HotSpots, hotKeys_, down))
             Fire(*hotspot, {0, 0}, CursorPoint());
-        return;
+        return true;
     }
     event_.PendingClick = 0;
     std::optional<Hotspots::Choice> choice =
@@ -174,6 +176,7 @@ void HotspotTimers::Dispatch() {
                                 [this] { return ClickedWindowOf(event_.ClickWindow); });
     if (choice)
         Fire(choice->hotspot, choice->origin, event_.ClickPoint);
+    return false;
 }
 
 void HotspotTimers::Fire(int hotspot, MenuWindow::Point origin, MenuWindow::Point cursor) {

@@ -33,8 +33,10 @@ private:
     class Timer1Pause;
     void DisableTimer1();
     // Timer1's work: a requested hotspot, the general hot key, a hotspot's hot key or
-    // the pending event, in that order.
-    void Dispatch();
+    // the pending event, in that order. False when the tick took a requested hotspot or
+    // a click instead of looking at the hot keys: what Timer3 sampled of them is then
+    // kept for the next tick, so a tap that comes with a click is not lost.
+    bool Dispatch();
     // The toggle and group rule, then the hotspot's action.
     void Fire(int hotspot, MenuWindow::Point origin, MenuWindow::Point cursor);
 
