@@ -87,7 +87,7 @@ bool ActivateTaskWindow(HWND window) {
         // A window minimised without being deactivated stays the foreground window; the
         // user who picks it wants it back on screen all the same.
         if (::IsIconic(window))
-            ::ShowWindow(window, SW_RESTORE);
+            ::ShowWindowAsync(window, SW_RESTORE);
         return true;
     }
     bool brought = false;
@@ -100,7 +100,8 @@ bool ActivateTaskWindow(HWND window) {
     } else {
         brought = ::SetForegroundWindow(window) != FALSE;
     }
-    ::ShowWindow(window, ::IsIconic(window) ? SW_RESTORE : SW_SHOW);
+    // Asked, not waited for: a task that hangs must not hang the menus with it.
+    ::ShowWindowAsync(window, ::IsIconic(window) ? SW_RESTORE : SW_SHOW);
     return brought;
 }
 
