@@ -143,6 +143,13 @@ SystrayLayout LayOutSystray(const SettingsRec& settings, Size notifyArea, int ti
     int padding = Dpi::Scale(6, dpi);
     Size clock{std::max(timeWidth, dateWidth) + 2 * padding, 2 * textHeight + 2 * padding};
     SystrayLayout layout;
+    if (settings.SystrayStyle == kSystrayColumn) {
+        int width = std::max(clock.width, notifyArea.width);
+        layout.notifyArea = RectAt({frame + (width - notifyArea.width) / 2, frame}, notifyArea);
+        layout.clock = RectAt({frame + (width - clock.width) / 2, frame + notifyArea.height}, clock);
+        layout.window = {width + 2 * frame, notifyArea.height + clock.height + 2 * frame};
+        return layout;
+    }
     int height = std::max(clock.height, notifyArea.height);
     layout.notifyArea = RectAt({frame, frame + (height - notifyArea.height) / 2}, notifyArea);
     layout.clock = RectAt({frame + notifyArea.width, frame + (height - clock.height) / 2}, clock);

@@ -77,8 +77,10 @@ MenuWindow::DrawList TaskListOps(const SettingsRec& settings, const TaskListShap
 
 // --- the systray copy ---
 
-// The clock's two lines and the room the shell's notification area takes at its left
-// (none where the shell has none to give).
+// The clock's two lines and the room the shell's notification area takes at its left,
+// or above it with SystrayStyle 1, for a copy that stands in a column of bars (none
+// where the shell has none to give).
+inline constexpr int kSystrayColumn = 1;
 struct SystrayLayout {
     Size window;
     Rect notifyArea;

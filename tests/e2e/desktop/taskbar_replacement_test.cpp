@@ -117,7 +117,7 @@ protected:
         return ::testing::AssertionSuccess();
     }
 
-    static std::string CommandHotspots(const std::vector<std::string>& commands) {
+    static std::string CommandHotspots(const std::vector<std::string>& commands, const std::string& more = "") {
         std::vector<TestHotspot> spots(1);
         for (std::size_t i = 0; i < commands.size(); ++i) {
             TestHotspot& spot = spots.emplace_back();
@@ -126,7 +126,7 @@ protected:
             spot.hotKey = VK_F5 + static_cast<int>(i);
             spot.group = "Command " + std::to_string(i);
         }
-        return HotspotSettings(spots);
+        return HotspotSettings(spots, more);
     }
 
     std::optional<WindowInfo> Shown(const char* className) {
@@ -169,7 +169,7 @@ TEST_F(TaskbarReplacement, TheTaskListWindowAndTheSystrayCopyComeAndGoByCommand)
     ASSERT_TRUE(notepad.Start(L"notepad.exe", "Notepad"));
     ::ShowWindow(notepad.hwnd(), SW_MINIMIZE);
     ASSERT_TRUE(WaitUntil([&] { return ::IsIconic(notepad.hwnd()) != FALSE; }, 5s));
-    ASSERT_NO_FATAL_FAILURE(Start(CommandHotspots({"*36", "*37", "*34", "*35"})));
+    ASSERT_NO_FATAL_FAILURE(Start(CommandHotspots({"*36", "*37", "*34", "*35"}, "SystrayStyle=1\n")));
 
     EXPECT_TRUE(Command(1, Showing(kTaskListClass))) << "*36 shows the task list";
     std::optional<WindowInfo> taskList = Shown(kTaskListClass);
@@ -191,6 +191,7 @@ TEST_F(TaskbarReplacement, TheTaskListWindowAndTheSystrayCopyComeAndGoByCommand)
         << "with the notification area in it";
     EXPECT_FALSE(::IsWindowVisible(shellClock)) << "in place of the shell's clock";
     EXPECT_EQ(systray->rect.right, 1024) << "bottom right";
+    EXPECT_GT(systray->rect.bottom - RectOf(notifyArea).bottom, 20) << "SystrayStyle 1: the clock under the icons";
     EXPECT_TRUE(SaveNamedScreenshot("systray-copy"));
     EXPECT_TRUE(Command(4, NotShowing(kSystrayClass))) << "*35 hides it";
     EXPECT_TRUE(TaskbarAsItWas());

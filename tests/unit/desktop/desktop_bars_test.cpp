@@ -67,6 +67,12 @@ TEST(DesktopBars, TheSystrayStandsBesideItsButtonInItsCorner) {
     EXPECT_EQ(layout.window, (Size{80 + 162 + 2, 40 + 2}));
     EXPECT_EQ(layout.clock.left, 81);
     EXPECT_EQ(layout.notifyArea, (Rect{1, 6, 81, 36}));
+    settings.SystrayStyle = 1;
+    SystrayLayout column = LayOutSystray(settings, {80, 30}, 40, 150, 14, 96);
+    EXPECT_EQ(column.window, (Size{162 + 2, 30 + 40 + 2})) << "the clock under the icons";
+    EXPECT_EQ(column.notifyArea, (Rect{42, 1, 122, 31}));
+    EXPECT_EQ(column.clock, (Rect{1, 31, 163, 71}));
+    settings.SystrayStyle = 0;
 
     settings.SystrayXofset = 5;
     SystrayPlaces alone = PlaceSystray(settings, kScreen, layout.window, false, 96);
