@@ -8,8 +8,11 @@
 #include "harness/menu_files.h"
 #include "harness/other_program.h"
 #include "harness/program_folder.h"
+#include "harness/screen.h"
 #include "harness/tarvex.h"
+#include "support/test_pictures.h"
 #include "win/handles.h"
+#include "win/text_convert.h"
 
 #include <gtest/gtest.h>
 
@@ -195,6 +198,32 @@ TEST_F(TaskbarReplacement, TheTaskListWindowAndTheSystrayCopyComeAndGoByCommand)
     EXPECT_TRUE(SaveNamedScreenshot("systray-copy"));
     EXPECT_TRUE(Command(4, NotShowing(kSystrayClass))) << "*35 hides it";
     EXPECT_TRUE(TaskbarAsItWas());
+}
+
+TEST_F(TaskbarReplacement, UserTasksShowAsButtonsInARowOnTheThemesPictureAndStartTheirProgram) {
+    ASSERT_TRUE(folder.ready());
+    ASSERT_TRUE(::CreateDirectoryW(Win::Widen(folder.File("Theme")).c_str(), nullptr));
+    constexpr COLORREF kGreen = RGB(0, 128, 0);
+    TestSupport::WriteBmp(folder.File("Theme\\Tasks.bmp"), 8, 8, [](int, int) { return kGreen; });
+    ASSERT_NO_FATAL_FAILURE(Start(CommandHotspots({"*36"}, "BitmapsFolder=Theme\nTaskbarStyle=1\nTaskbarOrientation=1\n"
+                                                          "TaskbarPos=1\nNoOfUserTasks=1\nTaskName0=Editor\n"
+                                                          "TaskExec0=notepad.exe\n")));
+    ASSERT_TRUE(Command(1, Showing(kTaskListClass)));
+    std::optional<WindowInfo> taskList = Shown(kTaskListClass);
+    ASSERT_TRUE(taskList);
+    const RECT& bar = taskList->rect;
+    EXPECT_EQ(bar.right, 1024);
+    EXPECT_EQ(bar.top, 0) << "top right";
+    EXPECT_GT(bar.right - bar.left, 2 * (bar.bottom - bar.top)) << "buttons in a row";
+    EXPECT_TRUE(WaitUntil([&] { return ReadPixel(bar.right - 20, bar.top + 4) == kGreen; }, 5s))
+        << "the theme's Tasks.bmp behind the buttons";
+    EXPECT_TRUE(SaveNamedScreenshot("task-list-buttons"));
+
+    std::size_t notepads = TopLevelWindows("Notepad").size();
+    ASSERT_TRUE(Click(bar.right - 80, bar.top + 20)) << "the user task: the last button";
+    EXPECT_TRUE(WaitUntil([&] { return TopLevelWindows("Notepad").size() > notepads; }, 20s)) << "starts its program";
+    for (const WindowInfo& notepad : TopLevelWindows("Notepad"))
+        ::PostMessageW(notepad.hwnd, WM_CLOSE, 0, 0);
 }
 
 TEST_F(TaskbarReplacement, AtStartTheTaskbarIsReplacedTheCopyCollapsesToItsButtonAndTheExitPutsAllBack) {
