@@ -30,6 +30,8 @@ COLORREF WindowPixel(const RECT& window, int x, int y) {
 int CountInWindow(const RECT& window, const RECT& part, COLORREF colour) {
     std::vector<std::uint32_t> pixels = ReadArea({window.left + part.left, window.top + part.top,
                                                   window.left + part.right, window.top + part.bottom});
+    if (pixels.empty())
+        return -1; // no count at all, so that neither "some" nor "none" holds
     // The rows hold 0x00RRGGBB; a COLORREF is 0x00BBGGRR.
     std::uint32_t wanted = (GetRValue(colour) << 16) | (GetGValue(colour) << 8) | GetBValue(colour);
     int count = 0;

@@ -14,7 +14,7 @@ namespace E2e {
 COLORREF ReadPixel(int x, int y);
 
 // The same for a point of a window, and how many pixels of a part of it (both in the
-// window's own coordinates) have a colour.
+// window's own coordinates) have a colour; -1 when the screen could not be read.
 COLORREF WindowPixel(const RECT& window, int x, int y);
 int CountInWindow(const RECT& window, const RECT& part, COLORREF colour);
 
