@@ -40,7 +40,7 @@ protected:
 
 } // namespace
 
-TEST_F(Exit, AsksTheQuestionWithYesAndNo) {
+TEST_F(Exit, AsksTheQuestionWithYesAndNoAndNoKeepsTheProgramRunningWithItsIcon) {
     std::optional<WindowInfo> question = AskToExit();
     ASSERT_TRUE(question);
     EXPECT_EQ(question->title, "Tarvex");
@@ -52,13 +52,6 @@ TEST_F(Exit, AsksTheQuestionWithYesAndNo) {
     }
     EXPECT_EQ(buttons, (std::vector<std::string>{"&Yes", "&No"}));
     ASSERT_TRUE(PressButton(question->hwnd, "No"));
-}
-
-TEST_F(Exit, NoKeepsTheProgramRunningWithItsIcon) {
-    std::optional<WindowInfo> question = AskToExit();
-    ASSERT_TRUE(question);
-    ASSERT_TRUE(PressButton(question->hwnd, "No"));
-    ASSERT_TRUE(WaitForNoVisibleWindow(kDialogClass, tarvex.processId(), 10s));
 
     Settle(1s);
     EXPECT_TRUE(tarvex.running());

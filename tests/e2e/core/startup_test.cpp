@@ -59,48 +59,34 @@ TEST(Startup, TheMainFormIsHiddenOffScreenUnderTheProgramsTitle) {
     EXPECT_TRUE(::GetWindowLongPtrW(form->hwnd, GWL_EXSTYLE) & WS_EX_TOOLWINDOW) << "it would get a taskbar button";
 }
 
-TEST(Startup, TheProgramFolderGetsItsFoldersButNoHelpFolder) {
-    ProgramFolder folder;
-    ASSERT_TRUE(folder.ready());
-    folder.WriteSettings(kSettings);
-    Tarvex tarvex;
-    ASSERT_TRUE(tarvex.Start(folder));
-    ASSERT_TRUE(tarvex.WaitForMainForm());
+// The program folder is the current directory, or with "autostart" the executable's
+// folder: it gets the program's folders, and no Help folder.
+TEST(Startup, TheProgramFolderIsTheCurrentDirectoryOrWithAutostartTheExecutablesFolder) {
+    const struct {
+        const char* arguments;
+        bool startElsewhere;
+        bool exeFolderIsProgramFolder;
+    } cases[] = {{"", false, true}, {"AUTOSTART", true, true}, {"", true, false}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(std::string("arguments \"") + c.arguments + "\", elsewhere " + (c.startElsewhere ? "yes" : "no"));
+        ProgramFolder folder;
+        ASSERT_TRUE(folder.ready());
+        TempFolder current;
+        // Settings and menus in both, so that neither start is a first run held up by questions.
+        folder.WriteSettings(kSettings);
+        current.WriteBytes("Helmora.ini", "[TARVEX]\r\nGenShowInTray=True\r\n");
+        current.WriteBytes("TvMenus.ini", "[MENUS]\r\n");
+        Tarvex tarvex;
+        ASSERT_TRUE(tarvex.Start(folder, c.arguments, c.startElsewhere ? current.path() : ""));
+        ASSERT_TRUE(tarvex.WaitForMainForm());
 
-    ASSERT_TRUE(WaitUntil([&] { return folder.IsFolder("Export"); }, 10s));
-    ExpectProgramFoldersIn(folder);
-    EXPECT_FALSE(folder.Exists("Help"));
-}
-
-TEST(Startup, AutostartFromAnotherDirectoryUsesTheExecutablesFolder) {
-    ProgramFolder folder;
-    ASSERT_TRUE(folder.ready());
-    folder.WriteSettings(kSettings);
-    TempFolder elsewhere;
-    Tarvex tarvex;
-    ASSERT_TRUE(tarvex.Start(folder, "AUTOSTART", elsewhere.path()));
-    ASSERT_TRUE(tarvex.WaitForMainForm());
-
-    ASSERT_TRUE(WaitUntil([&] { return folder.IsFolder("Export"); }, 10s));
-    ExpectProgramFoldersIn(folder);
-    ExpectNoProgramFoldersIn(elsewhere);
-}
-
-TEST(Startup, WithoutAutostartTheCurrentDirectoryIsTheProgramFolder) {
-    ProgramFolder folder;
-    ASSERT_TRUE(folder.ready());
-    TempFolder current;
-    // The settings and the menus in the current directory, so that this is no first run
-    // and no question about missing menus holds start-up up.
-    current.WriteBytes("Helmora.ini", "[TARVEX]\r\nGenShowInTray=True\r\n");
-    current.WriteBytes("TvMenus.ini", "[MENUS]\r\n");
-    Tarvex tarvex;
-    ASSERT_TRUE(tarvex.Start(folder, "", current.path()));
-    ASSERT_TRUE(tarvex.WaitForMainForm());
-
-    ASSERT_TRUE(WaitUntil([&] { return current.IsFolder("Export"); }, 10s));
-    ExpectProgramFoldersIn(current);
-    ExpectNoProgramFoldersIn(folder);
+        const TempFolder& home = c.exeFolderIsProgramFolder ? static_cast<const TempFolder&>(folder) : current;
+        ASSERT_TRUE(WaitUntil([&] { return home.IsFolder("Export"); }, 10s));
+        ExpectProgramFoldersIn(home);
+        EXPECT_FALSE(home.Exists("Help"));
+        if (c.startElsewhere)
+            ExpectNoProgramFoldersIn(c.exeFolderIsProgramFolder ? current : static_cast<const TempFolder&>(folder));
+    }
 }
 
 TEST(Startup, ASecondStartLeavesOneMainFormAndEnds) {

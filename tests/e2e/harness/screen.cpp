@@ -23,6 +23,23 @@ COLORREF ReadPixel(int x, int y) {
     return ::GetPixel(screen.get(), x, y);
 }
 
+COLORREF WindowPixel(const RECT& window, int x, int y) {
+    return ReadPixel(window.left + x, window.top + y);
+}
+
+int CountInWindow(const RECT& window, const RECT& part, COLORREF colour) {
+    std::vector<std::uint32_t> pixels = ReadArea({window.left + part.left, window.top + part.top,
+                                                  window.left + part.right, window.top + part.bottom});
+    if (pixels.empty())
+        return -1; // no count at all, so that neither "some" nor "none" holds
+    // The rows hold 0x00RRGGBB; a COLORREF is 0x00BBGGRR.
+    std::uint32_t wanted = (GetRValue(colour) << 16) | (GetGValue(colour) << 8) | GetBValue(colour);
+    int count = 0;
+    for (std::uint32_t pixel : pixels)
+        count += (pixel & 0x00FFFFFF) == wanted ? 1 : 0;
+    return count;
+}
+
 std::vector<std::uint32_t> ReadArea(const RECT& area) {
     int width = area.right - area.left;
     int height = area.bottom - area.top;

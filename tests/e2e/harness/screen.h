@@ -13,6 +13,11 @@ namespace E2e {
 
 COLORREF ReadPixel(int x, int y);
 
+// The same for a point of a window, and how many pixels of a part of it (both in the
+// window's own coordinates) have a colour; -1 when the screen could not be read.
+COLORREF WindowPixel(const RECT& window, int x, int y);
+int CountInWindow(const RECT& window, const RECT& part, COLORREF colour);
+
 // The pixels of an area of the screen, row by row, as 32-bit values to compare images by.
 std::vector<std::uint32_t> ReadArea(const RECT& area);
 

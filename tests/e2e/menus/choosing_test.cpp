@@ -3,9 +3,7 @@
 #include "harness/dialogs.h"
 #include "harness/input.h"
 #include "harness/menu_files.h"
-#include "harness/menu_window.h"
-#include "harness/program_folder.h"
-#include "harness/tarvex.h"
+#include "harness/startup_menu.h"
 
 #include <gtest/gtest.h>
 
@@ -20,15 +18,12 @@ HWND Taskbar() {
     return ::FindWindowW(L"Shell_TrayWnd", nullptr);
 }
 
-class Choosing : public ::testing::Test {
+class Choosing : public StartupMenuTest {
 protected:
     // Starts the program with a menu of the items open at start, and waits for it.
     void Open(const std::vector<TestItem>& items, const std::string& extraSettings = "") {
-        ASSERT_TRUE(folder.ready());
-        folder.WriteSettings(StartupMenuSettings("Programs", 200, 120, extraSettings));
-        folder.WriteMenus(MenuFileText({{"Programs", items}}));
-        ASSERT_TRUE(tarvex.Start(folder));
-        std::optional<WindowInfo> found = WaitForMenuWindow(tarvex.processId());
+        std::optional<WindowInfo> found =
+            Start(StartupMenuSettings("Programs", 200, 120, extraSettings), MenuFileText({{"Programs", items}}));
         ASSERT_TRUE(found) << "no menu at start";
         menu = found->rect;
     }
@@ -66,8 +61,6 @@ protected:
         return seen;
     }
 
-    ProgramFolder folder;
-    Tarvex tarvex;
     RECT menu{};
 };
 

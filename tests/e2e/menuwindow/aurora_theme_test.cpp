@@ -1,13 +1,9 @@
 // The shipped Aurora theme: its settings copied into Helmora.ini and its folder into the
 // program folder, a start-up menu painted with its pictures. The screenshot is saved as
 // "menuwindow-aurora.bmp" for a person to look at.
-#include "harness/failure_screenshots.h"
 #include "harness/menu_files.h"
-#include "harness/menu_window.h"
-#include "harness/program_folder.h"
 #include "harness/screen.h"
-#include "harness/tarvex.h"
-#include "harness/windows.h"
+#include "harness/startup_menu.h"
 #include "win/handles.h"
 #include "win/text_convert.h"
 
@@ -81,33 +77,25 @@ COLORREF PicturePixel(const std::string& path, double fx, double fy, SIZE* size)
     return ::GetPixel(dc.get(), static_cast<int>(fx * info.bmWidth), static_cast<int>(fy * info.bmHeight));
 }
 
+using AuroraTheme = StartupMenuTest;
+
 } // namespace
 
-TEST(AuroraTheme, TheShippedThemePaintsAStartUpMenuWithItsPictures) {
-    ProgramFolder folder;
+// The theme's keys come first and so win over the plain look's: a theme file holds every
+// look key (ShippedTheme.ThemeFileIsWhatSavingTheThemeWrites).
+TEST_F(AuroraTheme, TheShippedThemePaintsAStartUpMenuWithItsPictures) {
     ASSERT_TRUE(folder.ready());
     std::string keys = ThemeKeys();
     ASSERT_NE(keys.find("BitmapsFolder=Themes\\Aurora"), std::string::npos) << "the theme names its own folder";
     ASSERT_TRUE(CopyTheme(folder));
-    std::string settings = "[TARVEX]\n";
-    settings += "GenShowInTray=False\nNoOfHotSpots=0\nGenStartupHotspot0=0\n";
-    settings += "HotSpot0x1=48\nHotSpot0x2=1024\nHotSpot0y1=0\nHotSpot0y2=768\n";
-    settings += "HotSpot0App=Desktop\nHotSpot0GroupName=Default\n";
-    settings += "HotSpot0Menuleft=300\nHotSpot0Menutop=120\n";
-    settings += "HotSpot0Type=1\nHotSpot0Menupath1=Programs\n";
-    settings += keys;
-    folder.WriteSettings(settings);
     TestItem editor = Item("Text Editor", 0, "notepad.exe");
     editor.hotkey.assign(1, 'E'); // assigned so: GCC 12 warns falsely on = "E"
     std::vector<TestItem> programs{editor, Item("Tools", 3, "Tools"), Item("Calculator", 0, "calc.exe"),
                                    Item("Command Prompt", 0, "cmd.exe")};
-    folder.WriteMenus(MenuFileText({{"Programs", programs}, {"Tools", {Item("Paint", 0, "mspaint.exe")}}}));
-
-    Tarvex tarvex;
-    ASSERT_TRUE(tarvex.Start(folder));
-    std::optional<WindowInfo> menu = WaitForMenuWindow(tarvex.processId());
+    std::string menus = MenuFileText({{"Programs", programs}, {"Tools", {Item("Paint", 0, "mspaint.exe")}}});
+    std::optional<WindowInfo> menu = Start(StartupMenuSettings("Programs", 300, 120, keys), menus);
     ASSERT_TRUE(menu) << "no menu window opened at start";
-    EXPECT_TRUE(SaveNamedScreenshot("menuwindow-aurora"));
+    Screenshot("aurora");
 
     // The title picture is stretched over the bar: its middle, between the name at the left
     // and the buttons at the right, shows the picture's middle.

@@ -2,13 +2,10 @@
 // keys, sub-menus drop down and close, folders list and open, and the title bar drags,
 // rolls up, rotates, keeps on top, closes and tears sub-menus off. Every check looks at
 // what a user sees: windows, their places and the selection bar's pixels.
-#include "harness/failure_screenshots.h"
 #include "harness/input.h"
 #include "harness/menu_files.h"
-#include "harness/menu_window.h"
-#include "harness/program_folder.h"
 #include "harness/screen.h"
-#include "harness/tarvex.h"
+#include "harness/startup_menu.h"
 #include "win/text_convert.h"
 
 #include <gtest/gtest.h>
@@ -40,15 +37,12 @@ TestItem MenuItem(const std::string& label, const std::string& menu) {
     return Item(label, 3, menu);
 }
 
-class MenuInteraction : public ::testing::Test {
+class MenuInteraction : public StartupMenuTest {
 protected:
-    // Starts the program with menus; the first opens at start. Returns its window.
+    // Starts the program with menus; the first opens at start and is main.
     void Open(const std::vector<TestMenu>& menus, const std::string& extraSettings = SelectionBar()) {
-        ASSERT_TRUE(folder.ready());
-        folder.WriteSettings(StartupMenuSettings(menus.front().name, 200, 120, extraSettings));
-        folder.WriteMenus(MenuFileText(menus));
-        ASSERT_TRUE(tarvex.Start(folder));
-        std::optional<WindowInfo> found = WaitForMenuWindow(tarvex.processId());
+        std::optional<WindowInfo> found =
+            Start(StartupMenuSettings(menus.front().name, 200, 120, extraSettings), MenuFileText(menus));
         ASSERT_TRUE(found) << "no menu at start";
         main = found->hwnd;
     }
@@ -92,12 +86,6 @@ protected:
         return found ? found->hwnd : nullptr;
     }
 
-    void Screenshot(const std::string& name) {
-        EXPECT_TRUE(SaveNamedScreenshot("menuwindow-" + name));
-    }
-
-    ProgramFolder folder;
-    Tarvex tarvex;
     HWND main = nullptr;
 };
 

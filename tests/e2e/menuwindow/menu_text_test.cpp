@@ -1,35 +1,22 @@
 // What a user reads first: the shipped default menus, and labels in other scripts.
-#include "harness/failure_screenshots.h"
 #include "harness/menu_files.h"
-#include "harness/menu_window.h"
-#include "harness/program_folder.h"
 #include "harness/screen.h"
-#include "harness/tarvex.h"
-#include "win/text_convert.h"
+#include "harness/startup_menu.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 
-namespace {
-
+using MenuText = E2e::StartupMenuTest;
 using namespace E2e;
 
-void Screenshot(const std::string& name) {
-    EXPECT_TRUE(SaveNamedScreenshot("menuwindow-" + name));
-}
-
-} // namespace
-
 // The default menus as a new user accepts them, in the default look.
-TEST(MenuText, TheShippedMainMenuOpensInTheDefaultLook) {
-    ProgramFolder folder;
+TEST_F(MenuText, TheShippedMainMenuOpensInTheDefaultLook) {
     ASSERT_TRUE(folder.ready());
     folder.WriteBytes("TvMenus.ini", folder.ReadBytes("DefMenu.ini"));
     folder.WriteSettings("[TARVEX]\nGenShowInTray=False\nNoOfHotSpots=0\nGenStartupHotspot0=0\n"
                          "HotSpot0x1=48\nHotSpot0x2=1024\nHotSpot0y1=0\nHotSpot0y2=768\nHotSpot0App=Desktop\n"
                          "HotSpot0Type=1\nHotSpot0Menupath1=Main\nHotSpot0Menuleft=300\nHotSpot0Menutop=100\n");
-    Tarvex tarvex;
     ASSERT_TRUE(tarvex.Start(folder));
     std::optional<WindowInfo> menu = WaitForMenuWindow(tarvex.processId());
     ASSERT_TRUE(menu);
@@ -40,19 +27,14 @@ TEST(MenuText, TheShippedMainMenuOpensInTheDefaultLook) {
 // Labels in scripts the menu's font (Arial, or what stands in for it) lacks are drawn in
 // an installed font that has them. The screenshot shows the three; the test sees that
 // each row holds text, the Japanese one as wide as full-width characters are.
-TEST(MenuText, LabelsInCyrillicJapaneseAndGreekAreDrawn) {
+TEST_F(MenuText, LabelsInCyrillicJapaneseAndGreekAreDrawn) {
     const std::string russian = "\xD0\xA0\xD0\xB5\xD0\xB4\xD0\xB0\xD0\xBA\xD1\x82\xD0\xBE\xD1\x80"; // Редактор
     const std::string japanese = "\xE3\x83\x86\xE3\x82\xAD\xE3\x82\xB9\xE3\x83\x88\xE3\x82\xA8\xE3\x83\x87"
                                  "\xE3\x82\xA3\xE3\x82\xBF"; // テキストエディタ
     const std::string greek = "\xCE\x95\xCF\x80\xCE\xB5\xCE\xBE\xCE\xB5\xCF\x81\xCE\xB3\xCE\xB1\xCF\x83\xCF\x84"
                               "\xCE\xAE\xCF\x82"; // Επεξεργαστής
-    ProgramFolder folder;
-    ASSERT_TRUE(folder.ready());
-    folder.WriteSettings(StartupMenuSettings("Programs", 300, 100));
-    folder.WriteMenus(MenuFileText({{"Programs", NotepadItems({russian, japanese, greek})}}));
-    Tarvex tarvex;
-    ASSERT_TRUE(tarvex.Start(folder));
-    std::optional<WindowInfo> menu = WaitForMenuWindow(tarvex.processId());
+    std::optional<WindowInfo> menu = Start(StartupMenuSettings("Programs", 300, 100),
+                                           MenuFileText({{"Programs", NotepadItems({russian, japanese, greek})}}));
     ASSERT_TRUE(menu);
     Screenshot("scripts");
     const COLORREF kText = 0x00302010; // the plain look's button text

@@ -2,14 +2,10 @@
 // Folder opens its menu window, placed and painted as the settings say. Each test saves
 // a screenshot of the look it checks in the screenshot folder.
 #include "harness/dialogs.h"
-#include "harness/failure_screenshots.h"
 #include "harness/input.h"
 #include "harness/menu_files.h"
-#include "harness/menu_window.h"
-#include "harness/program_folder.h"
 #include "harness/screen.h"
-#include "harness/tarvex.h"
-#include "harness/windows.h"
+#include "harness/startup_menu.h"
 #include "menuwindow/look/gradient.h"
 #include "win/text_convert.h"
 
@@ -32,47 +28,17 @@ constexpr int kButtonHeight = kPlainButtonHeight;
 constexpr int kMenuLeft = 240;
 constexpr int kMenuTop = 130;
 
-std::string Number(long long value) {
-    return std::to_string(value);
-}
-
-// The start-up hotspot's settings in the plain look; hotspot and extra lines come first
-// and so win over the plain ones.
-std::string Settings(const std::string& hotspot, const std::string& extra) {
-    return StartupMenuSettings("Programs", kMenuLeft, kMenuTop, extra + hotspot);
-}
-
-std::string MenuFile(const std::vector<std::string>& labels) {
-    return MenuFileText({{"Programs", NotepadItems(labels)}});
-}
-
 const std::vector<std::string> kLabels = {"Text Editor", "Calculator", "Paint", "Mail", "Web Browser"};
 
-class StartupMenu : public ::testing::Test {
+class StartupMenu : public StartupMenuTest {
 protected:
-    // Writes the files, starts the program and waits for its menu window.
-    std::optional<WindowInfo> Start(const std::string& settings, const std::string& menuFile) {
-        if (!folder_.ready())
-            return std::nullopt;
-        folder_.WriteSettings(settings);
-        folder_.WriteMenus(menuFile);
-        if (!tarvex_.Start(folder_))
-            return std::nullopt;
-        return WaitForMenuWindow(tarvex_.processId());
+    // The start-up hotspot's menu "Programs" in the plain look; extra lines come first and
+    // so win over the plain ones.
+    std::optional<WindowInfo> Open(const std::string& extra, const std::vector<std::string>& labels = kLabels) {
+        return Start(StartupMenuSettings("Programs", kMenuLeft, kMenuTop, extra),
+                     MenuFileText({{"Programs", NotepadItems(labels)}}));
     }
-
-    // Saves the screen as "menuwindow-<name>.bmp" in the screenshot folder.
-    void Screenshot(const std::string& name) {
-        EXPECT_TRUE(SaveNamedScreenshot("menuwindow-" + name));
-    }
-
-    ProgramFolder folder_;
-    Tarvex tarvex_;
 };
-
-COLORREF At(const RECT& window, int x, int y) {
-    return ReadPixel(window.left + x, window.top + y);
-}
 
 int Width(const RECT& r) {
     return r.right - r.left;
@@ -82,19 +48,10 @@ int Height(const RECT& r) {
     return r.bottom - r.top;
 }
 
-// How many pixels of a part of the window have the colour.
-int CountOf(const RECT& window, RECT part, COLORREF colour) {
-    int count = 0;
-    for (int y = part.top; y < part.bottom; ++y)
-        for (int x = part.left; x < part.right; ++x)
-            count += At(window, x, y) == colour ? 1 : 0;
-    return count;
-}
-
 } // namespace
 
 TEST_F(StartupMenu, AShowMenuHotspotOpensItsMenuAtItsPlaceInItsColours) {
-    std::optional<WindowInfo> menu = Start(Settings("", ""), MenuFile(kLabels));
+    std::optional<WindowInfo> menu = Open("");
     ASSERT_TRUE(menu) << "no menu window opened at start";
     Screenshot("title-top");
     const RECT& r = menu->rect;
@@ -102,14 +59,14 @@ TEST_F(StartupMenu, AShowMenuHotspotOpensItsMenuAtItsPlaceInItsColours) {
     EXPECT_EQ(r.top, kMenuTop);
     EXPECT_EQ(Height(r), kTitleHeight + 5 * kButtonHeight);
     EXPECT_EQ(menu->title, "Programs");
-    EXPECT_EQ(At(r, 1, 1), kTitleColour);
-    EXPECT_EQ(At(r, Width(r) - 2, kTitleHeight - 2), kTitleColour);
-    EXPECT_GT(CountOf(r, {0, 0, Width(r), kTitleHeight}, kTitleTextColour), 0) << "the name is on the title bar";
+    EXPECT_EQ(WindowPixel(r, 1, 1), kTitleColour);
+    EXPECT_EQ(WindowPixel(r, Width(r) - 2, kTitleHeight - 2), kTitleColour);
+    EXPECT_GT(CountInWindow(r, {0, 0, Width(r), kTitleHeight}, kTitleTextColour), 0) << "the name is on the title bar";
     for (int button = 0; button < 5; ++button) {
         int middle = kTitleHeight + button * kButtonHeight + kButtonHeight / 2;
-        EXPECT_EQ(At(r, Width(r) - 3, middle), kButtonColour) << "button " << button;
+        EXPECT_EQ(WindowPixel(r, Width(r) - 3, middle), kButtonColour) << "button " << button;
         RECT row{0, middle - kButtonHeight / 2, Width(r), middle + kButtonHeight / 2};
-        EXPECT_GT(CountOf(r, row, kButtonTextColour), 0) << "button " << button << " shows its label";
+        EXPECT_GT(CountInWindow(r, row, kButtonTextColour), 0) << "button " << button << " shows its label";
     }
     EXPECT_FALSE(::GetWindowLongPtrW(menu->hwnd, GWL_EXSTYLE) & WS_EX_APPWINDOW);
     EXPECT_TRUE(::GetWindowLongPtrW(menu->hwnd, GWL_EXSTYLE) & WS_EX_TOOLWINDOW) << "it would get a taskbar button";
@@ -118,10 +75,8 @@ TEST_F(StartupMenu, AShowMenuHotspotOpensItsMenuAtItsPlaceInItsColours) {
 TEST_F(StartupMenu, AGradientTitlesFirstAndLastBandsHaveTheComputedColours) {
     constexpr COLORREF kFrom = 0x00400000;
     constexpr COLORREF kTo = 0x00FFC060;
-    std::string look = "TitleColor=" + Number(kFrom) + "\nTitleGradient=True\nTitleColor2=" + Number(kTo) +
-                       "\nTitleGradientType=0\nTitleAlignment=1\n";
-    std::string settings = Settings("", look);
-    std::optional<WindowInfo> menu = Start(settings, MenuFile(kLabels));
+    std::optional<WindowInfo> menu = Open("TitleColor=" + std::to_string(kFrom) + "\nTitleGradient=True\nTitleColor2=" +
+                                          std::to_string(kTo) + "\nTitleGradientType=0\nTitleAlignment=1\n");
     ASSERT_TRUE(menu);
     Screenshot("title-gradient");
     const RECT& r = menu->rect;
@@ -129,39 +84,38 @@ TEST_F(StartupMenu, AGradientTitlesFirstAndLastBandsHaveTheComputedColours) {
         MenuWindow::GradientBands({Width(r), kTitleHeight}, {static_cast<MenuWindow::Colour>(kFrom),
                                                              static_cast<MenuWindow::Colour>(kTo), 0, false});
     ASSERT_GE(bands.size(), 2u);
-    EXPECT_EQ(At(r, bands.front().rect.left, 1), static_cast<COLORREF>(bands.front().colour));
-    EXPECT_EQ(At(r, bands.back().rect.right - 1, kTitleHeight - 2), static_cast<COLORREF>(bands.back().colour));
+    EXPECT_EQ(WindowPixel(r, bands.front().rect.left, 1), static_cast<COLORREF>(bands.front().colour));
+    EXPECT_EQ(WindowPixel(r, bands.back().rect.right - 1, kTitleHeight - 2),
+              static_cast<COLORREF>(bands.back().colour));
     EXPECT_NE(bands.front().colour, bands.back().colour);
 }
 
 TEST_F(StartupMenu, TheTitleAtTheBottom) {
-    std::optional<WindowInfo> menu =
-        Start(Settings("", "TitlePosition=1\n"), MenuFile(kLabels));
+    std::optional<WindowInfo> menu = Open("TitlePosition=1\n");
     ASSERT_TRUE(menu);
     Screenshot("title-bottom");
     const RECT& r = menu->rect;
     EXPECT_EQ(menu->title, "Programs");
-    EXPECT_EQ(At(r, 1, Height(r) - 2), kTitleColour);
-    EXPECT_EQ(At(r, 1, Height(r) - kTitleHeight + 1), kTitleColour);
-    EXPECT_EQ(At(r, Width(r) - 3, kButtonHeight / 2), kButtonColour) << "the first button at the top";
-    EXPECT_GT(CountOf(r, {0, Height(r) - kTitleHeight, Width(r), Height(r)}, kTitleTextColour), 0);
+    EXPECT_EQ(WindowPixel(r, 1, Height(r) - 2), kTitleColour);
+    EXPECT_EQ(WindowPixel(r, 1, Height(r) - kTitleHeight + 1), kTitleColour);
+    EXPECT_EQ(WindowPixel(r, Width(r) - 3, kButtonHeight / 2), kButtonColour) << "the first button at the top";
+    EXPECT_GT(CountInWindow(r, {0, Height(r) - kTitleHeight, Width(r), Height(r)}, kTitleTextColour), 0);
 }
 
 TEST_F(StartupMenu, TheTitleAtTheLeftReadsUpwards) {
-    std::optional<WindowInfo> menu =
-        Start(Settings("", "TitlePosition=2\n"), MenuFile(kLabels));
+    std::optional<WindowInfo> menu = Open("TitlePosition=2\n");
     ASSERT_TRUE(menu);
     Screenshot("title-left");
     const RECT& r = menu->rect;
     EXPECT_EQ(Height(r), 5 * kButtonHeight);
-    EXPECT_EQ(At(r, 1, 1), kTitleColour);
-    EXPECT_EQ(At(r, kTitleHeight - 2, Height(r) - 2), kTitleColour);
-    EXPECT_EQ(At(r, Width(r) - 3, kButtonHeight / 2), kButtonColour);
+    EXPECT_EQ(WindowPixel(r, 1, 1), kTitleColour);
+    EXPECT_EQ(WindowPixel(r, kTitleHeight - 2, Height(r) - 2), kTitleColour);
+    EXPECT_EQ(WindowPixel(r, Width(r) - 3, kButtonHeight / 2), kButtonColour);
     // The turned name: a column of text taller than it is wide.
     int top = Height(r), bottom = -1, left = kTitleHeight, right = -1;
     for (int y = 0; y < Height(r); ++y)
         for (int x = 0; x < kTitleHeight; ++x)
-            if (At(r, x, y) == kTitleTextColour) {
+            if (WindowPixel(r, x, y) == kTitleTextColour) {
                 top = std::min(top, y);
                 bottom = std::max(bottom, y);
                 left = std::min(left, x);
@@ -172,25 +126,23 @@ TEST_F(StartupMenu, TheTitleAtTheLeftReadsUpwards) {
 }
 
 TEST_F(StartupMenu, AHorizontalMenuStandsItsButtonsInARow) {
-    std::string hotspot = "HotSpot0Horizontal=True\n";
-    std::optional<WindowInfo> menu =
-        Start(Settings(hotspot, "HorzNoTitlebar=False\nMenuHorizontalStyle=1\n"), MenuFile(kLabels));
+    std::optional<WindowInfo> menu = Open("HotSpot0Horizontal=True\nHorzNoTitlebar=False\nMenuHorizontalStyle=1\n");
     ASSERT_TRUE(menu);
     Screenshot("horizontal");
     const RECT& r = menu->rect;
     EXPECT_EQ(Height(r), kButtonHeight);
     EXPECT_GT(Width(r), 5 * 40);
-    EXPECT_EQ(At(r, 1, 1), kTitleColour) << "the turned title at the row's left end";
-    EXPECT_EQ(At(r, Width(r) - 3, 2), kButtonColour);
-    EXPECT_GT(CountOf(r, {Width(r) - Width(r) / 6, 0, Width(r), Height(r)}, kButtonTextColour), 0)
+    EXPECT_EQ(WindowPixel(r, 1, 1), kTitleColour) << "the turned title at the row's left end";
+    EXPECT_EQ(WindowPixel(r, Width(r) - 3, 2), kButtonColour);
+    EXPECT_GT(CountInWindow(r, {Width(r) - Width(r) / 6, 0, Width(r), Height(r)}, kButtonTextColour), 0)
         << "the last button shows its label";
 }
 
 TEST_F(StartupMenu, AMenuLongerThanTheScreenEndsInAScrollButton) {
     std::vector<std::string> labels;
     for (int i = 1; i <= 60; ++i)
-        labels.push_back("Program " + Number(i));
-    std::optional<WindowInfo> menu = Start(Settings("", ""), MenuFile(labels));
+        labels.push_back("Program " + std::to_string(i));
+    std::optional<WindowInfo> menu = Open("", labels);
     ASSERT_TRUE(menu);
     Screenshot("scroll");
     const RECT& r = menu->rect;
@@ -203,29 +155,29 @@ TEST_F(StartupMenu, AMenuLongerThanTheScreenEndsInAScrollButton) {
     ASSERT_LT(slots, 60);
     RECT last{0, kTitleHeight + (slots - 1) * kButtonHeight, Width(r), kTitleHeight + slots * kButtonHeight};
     int middle = Width(r) / 2;
-    EXPECT_GT(CountOf(r, {middle - 6, last.top, middle + 7, last.bottom}, kButtonColour), 0);
-    EXPECT_LT(CountOf(r, {middle - 6, last.top, middle + 7, last.bottom}, kButtonColour), 13 * kButtonHeight)
+    EXPECT_GT(CountInWindow(r, {middle - 6, last.top, middle + 7, last.bottom}, kButtonColour), 0);
+    EXPECT_LT(CountInWindow(r, {middle - 6, last.top, middle + 7, last.bottom}, kButtonColour), 13 * kButtonHeight)
         << "the arrow of the scroll button";
-    EXPECT_EQ(CountOf(r, {0, last.top, middle - 10, last.bottom}, kButtonTextColour), 0)
+    EXPECT_EQ(CountInWindow(r, {0, last.top, middle - 10, last.bottom}, kButtonTextColour), 0)
         << "no button's label behind the scroll button";
     RECT before{0, last.top - kButtonHeight, Width(r), last.top};
-    EXPECT_GT(CountOf(r, before, kButtonTextColour), 0) << "the slot before it is a button";
+    EXPECT_GT(CountInWindow(r, before, kButtonTextColour), 0) << "the slot before it is a button";
 }
 
 TEST_F(StartupMenu, AFolderHotspotListsAnEmptyFolderAsEmpty) {
-    ASSERT_TRUE(folder_.ready());
-    std::string empty = folder_.File("Nothing Here");
+    ASSERT_TRUE(folder.ready());
+    std::string empty = folder.File("Nothing Here");
     ASSERT_TRUE(::CreateDirectoryW(Win::Widen(empty).c_str(), nullptr));
-    std::string hotspot = "HotSpot0Type=0\nHotSpot0Menupath1=" + empty + "\n";
-    std::optional<WindowInfo> menu = Start(Settings(hotspot, ""), MenuFile(kLabels));
+    std::optional<WindowInfo> menu = Open("HotSpot0Type=0\nHotSpot0Menupath1=" + empty + "\n");
     ASSERT_TRUE(menu);
     Screenshot("folder-empty");
     const RECT& r = menu->rect;
     EXPECT_EQ(menu->title, "Nothing Here");
     EXPECT_EQ(Height(r), kTitleHeight + kButtonHeight) << "one entry";
-    EXPECT_GT(CountOf(r, {0, kTitleHeight, Width(r), Height(r)}, kButtonTextColour), 0) << "\"(Empty)\" is written";
+    EXPECT_GT(CountInWindow(r, {0, kTitleHeight, Width(r), Height(r)}, kButtonTextColour), 0)
+        << "\"(Empty)\" is written";
     ASSERT_TRUE(Click((r.left + r.right) / 2, r.top + kTitleHeight + kButtonHeight / 2));
     Settle(1s);
-    EXPECT_TRUE(WaitForNoVisibleWindow(kDialogClass, tarvex_.processId(), 0ms)) << "\"(Empty)\" starts nothing";
-    EXPECT_TRUE(WaitForVisibleWindow(kMenuClass, tarvex_.processId(), 0ms)) << "and leaves the menu open";
+    EXPECT_TRUE(WaitForNoVisibleWindow(kDialogClass, tarvex.processId(), 0ms)) << "\"(Empty)\" starts nothing";
+    EXPECT_TRUE(WaitForVisibleWindow(kMenuClass, tarvex.processId(), 0ms)) << "and leaves the menu open";
 }

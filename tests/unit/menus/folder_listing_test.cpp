@@ -26,7 +26,8 @@ FolderListRequest Request(std::uint8_t filter = kFilterAllFiles, const std::stri
 }
 
 // The entries found in the first folder. Folders first, hidden and system entries, the
-// second folder, an empty folder and the paths of real files are the Wine folder tests'.
+// second folder and the paths of real files are the Wine folder tests'; an empty or missing
+// folder shown as "(Empty)" is the end-to-end tests'.
 FolderListing List(const FolderListRequest& request, const SettingsRec& settings, const std::vector<DirEntry>& found) {
     FolderListBuilder builder(request, settings);
     for (const DirEntry& entry : found)

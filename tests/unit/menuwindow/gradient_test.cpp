@@ -24,38 +24,50 @@ int Red(Colour c) {
 
 } // namespace
 
-TEST(GradientColours, EqualColoursRiseByOneOverTheBands) {
-    std::vector<Colour> colours = GradientColours({0x404040, 0x404040, 0, false});
-    ASSERT_EQ(colours.size(), 63u);
-    // 1/63 per band: still 64 at band 31 (31/63 < 0.5), 65 from band 32 on.
-    EXPECT_EQ(colours[0], 0x404040);
-    EXPECT_EQ(colours[31], 0x404040);
-    EXPECT_EQ(colours[32], 0x414141);
-    EXPECT_EQ(colours[62], 0x414141);
-}
-
-TEST(GradientColours, RisingPartStepsByTheDifferencePlusOneOver63) {
-    // Red 0 -> 255: step 256/63. Green and blue 0 -> 0 still rise by 1/63 per band.
-    std::vector<Colour> colours = GradientColours({0x000000, 0x0000FF, 0, false});
-    EXPECT_EQ(colours[0], 0x000000);
-    EXPECT_EQ(colours[1], 0x000004);  // 4.06
-    EXPECT_EQ(colours[31], 0x00007E); // 125.97
-    EXPECT_EQ(colours[62], 0x0101FC); // 251.94; green and blue 62/63
-}
-
-TEST(GradientColours, FallingPartStepsDownward) {
-    // Red 255 -> 0: step (0 - 255 + 1) / 63 = -254/63.
-    std::vector<Colour> colours = GradientColours({0x0000FF, 0x000000, 0, false});
-    EXPECT_EQ(Red(colours[0]), 255);
-    EXPECT_EQ(Red(colours[1]), 251); // 250.97
-    EXPECT_EQ(Red(colours[62]), 5);  // 5.03
-}
-
-TEST(GradientColours, PartsAreSplitByTheirPlaceInTheColourValue) {
-    // Blue 0x10 -> 0x50 only: red and green rise by 1 over the bands, blue by about 64.
-    std::vector<Colour> colours = GradientColours({0x100000, 0x500000, 0, false});
-    EXPECT_EQ(colours[0], 0x100000);
-    EXPECT_EQ(colours[62], 0x500101); // 16 + 62 * 65/63 = 79.97
+// Each part steps by (to - from + 1) / 63 per band, rounded: a colour of 63 bands, of which
+// one band (or its red part alone, mask 0xFF) is checked.
+TEST(GradientColours, EachPartStepsByItsDifferencePlusOneOver63) {
+    const struct {
+        Colour from, to;
+        bool wrap;
+        int band;
+        Colour mask, colour;
+    } cases[] = {
+        // Equal colours: 1/63 per band, still 64 at band 31 (31/63 < 0.5), 65 from band 32 on.
+        {0x404040, 0x404040, false, 0, 0xFFFFFF, 0x404040},
+        {0x404040, 0x404040, false, 31, 0xFFFFFF, 0x404040},
+        {0x404040, 0x404040, false, 32, 0xFFFFFF, 0x414141},
+        {0x404040, 0x404040, false, 62, 0xFFFFFF, 0x414141},
+        // Red 0 -> 255: 256/63 per band (4.06, 125.97, 251.94); green and blue 0 -> 0 at 62/63.
+        {0x000000, 0x0000FF, false, 0, 0xFFFFFF, 0x000000},
+        {0x000000, 0x0000FF, false, 1, 0xFFFFFF, 0x000004},
+        {0x000000, 0x0000FF, false, 31, 0xFFFFFF, 0x00007E},
+        {0x000000, 0x0000FF, false, 62, 0xFFFFFF, 0x0101FC},
+        // Red 255 -> 0 falls by 254/63: 250.97, 5.03.
+        {0x0000FF, 0x000000, false, 0, 0xFF, 255},
+        {0x0000FF, 0x000000, false, 1, 0xFF, 251},
+        {0x0000FF, 0x000000, false, 62, 0xFF, 5},
+        // The parts are split by their place: blue 0x10 -> 0x50 reaches 16 + 62 * 65/63 = 79.97.
+        {0x100000, 0x500000, false, 0, 0xFFFFFF, 0x100000},
+        {0x100000, 0x500000, false, 62, 0xFFFFFF, 0x500101},
+        // Wrapped, red 0 -> 255 doubled: 512/63 per band; band 32 reaches 260, shown as 255, and turns.
+        {0x000000, 0x0000FF, true, 1, 0xFF, 8},
+        {0x000000, 0x0000FF, true, 32, 0xFF, 255},
+        {0x000000, 0x0000FF, true, 33, 0xFF, 252},
+        {0x000000, 0x0000FF, true, 62, 0xFF, 16},
+        // Wrapped, red 0 -> 1: 4/63 per band. Doubled and rounded, 2v reaches 2 at v = 0.76
+        // (band 12); the bands from 8 (v >= 0.5) to 16 show red 1.
+        {0x000000, 0x000001, true, 7, 0xFF, 0},
+        {0x000000, 0x000001, true, 8, 0xFF, 1},
+        {0x000000, 0x000001, true, 16, 0xFF, 1},
+        {0x000000, 0x000001, true, 17, 0xFF, 0},
+    };
+    for (const auto& c : cases) {
+        std::vector<Colour> colours = GradientColours({c.from, c.to, 0, c.wrap});
+        ASSERT_EQ(colours.size(), 63u);
+        EXPECT_EQ(colours[static_cast<std::size_t>(c.band)] & c.mask, c.colour)
+            << std::hex << c.from << " to " << c.to << (c.wrap ? " wrapped" : "") << std::dec << ", band " << c.band;
+    }
 }
 
 TEST(GradientColours, PartsAreClampedTo0And255) {
@@ -67,25 +79,10 @@ TEST(GradientColours, PartsAreClampedTo0And255) {
         EXPECT_EQ(c, 0);
 }
 
-TEST(GradientColours, WrapReachesTheEndAboutHalfwayAndComesBack) {
-    // Red 0 -> 255 doubled: 512/63 per band. Band 32 reaches 260 (shown as 255) and turns.
+TEST(GradientColours, WrappedColoursComeBackAfterTheirTurn) {
     std::vector<Colour> colours = GradientColours({0x000000, 0x0000FF, 0, true});
-    EXPECT_EQ(Red(colours[1]), 8);
-    EXPECT_EQ(Red(colours[32]), 255);
-    EXPECT_EQ(Red(colours[33]), 252);
-    EXPECT_EQ(Red(colours[62]), 16);
     for (int band = 33; band < 63; ++band)
         EXPECT_LT(Red(colours[band]), Red(colours[band - 1])) << band;
-}
-
-TEST(GradientColours, WrapTurnsWhenTheDoubledValuesMeet) {
-    // Red 0 -> 1 doubled: 4/63 per band. Doubled and rounded, 2v reaches 2 at v = 0.76
-    // (band 12); the bands from 8 (v >= 0.5) to 16 show red 1.
-    std::vector<Colour> colours = GradientColours({0x000000, 0x000001, 0, true});
-    EXPECT_EQ(Red(colours[7]), 0);
-    EXPECT_EQ(Red(colours[8]), 1);
-    EXPECT_EQ(Red(colours[16]), 1);
-    EXPECT_EQ(Red(colours[17]), 0);
 }
 
 TEST(GradientBands, LeftToRightStripsAcrossTheWidthAndTopToBottomStripsDownTheHeight) {

@@ -20,7 +20,7 @@ MenuLayout LayoutWithTitle(TitlePlace place, bool framed) {
 
 } // namespace
 
-// Rolled up with the title at the top is the Wine window tests'; here, a title at the
+// Rolled up with the title at the top is the end-to-end tests'; here, a title at the
 // bottom, and one at the left with a frame, whose line at the title's side stays.
 TEST(WindowOutline, RolledUpOnlyTheTitleBarShows) {
     EXPECT_FALSE(WindowOutline(LayoutWithTitle(TitlePlace::Top, false), false).has_value());

@@ -106,15 +106,3 @@ TEST_F(FolderMenu, TheSecondFolderIsListedIntoTheSameMenu) {
     request.secondFolder = request.folder;
     EXPECT_EQ(ListFolder(request, settings).entries.size(), 5u) << "the same folder twice is listed once";
 }
-
-TEST_F(FolderMenu, AnEmptyOrMissingFolderShowsEmpty) {
-    TempFolder empty;
-    FolderListRequest request;
-    for (const std::string& folder : {empty.path() + "\\", dir.path() + "\\No such folder\\"}) {
-        request.folder = folder;
-        const FolderListing listing = ListFolder(request, settings);
-        EXPECT_TRUE(listing.empty) << folder;
-        EXPECT_EQ(Labels(listing), (Strings{"(Empty)"})) << folder;
-        EXPECT_EQ(listing.folderCount, 0);
-    }
-}

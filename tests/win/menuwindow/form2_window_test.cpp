@@ -7,7 +7,8 @@
 using namespace MenuWindowTests;
 using MenuWindow::Rect;
 
-// Its place, size, title and taskbar style are the end-to-end tests'.
+// Its place, size, title and taskbar style, and the region of a rolled-up menu, are the
+// end-to-end tests'.
 TEST_F(MenuWindowTest, IsABorderlessPopupCreatedHiddenAndShownOnRequest) {
     Form2* form = Open(MenuRecord(AddMenu("Programs", {"Editor", "Calculator"})));
     ASSERT_TRUE(form);
@@ -18,20 +19,6 @@ TEST_F(MenuWindowTest, IsABorderlessPopupCreatedHiddenAndShownOnRequest) {
     EXPECT_FALSE(::IsWindowVisible(hwnd)) << "a window is painted before it is shown";
     form->Show();
     EXPECT_TRUE(::IsWindowVisible(hwnd));
-}
-
-TEST_F(MenuWindowTest, RolledUpOnlyTheTitleBarIsLeftAsTheWindowsRegion) {
-    Form2* form = Open(MenuRecord(AddMenu("Programs", {"Editor", "Calculator"})));
-    ASSERT_TRUE(form);
-    Win::UniqueRegion probe(::CreateRectRgn(0, 0, 0, 0));
-    EXPECT_EQ(::GetWindowRgn(form->hwnd(), probe.get()), ERROR) << "no region in the normal state";
-    form->SetRolledUp(true);
-    ASSERT_EQ(::GetWindowRgn(form->hwnd(), probe.get()), SIMPLEREGION);
-    RECT box{};
-    ::GetRgnBox(probe.get(), &box);
-    EXPECT_EQ((Rect{box.left, box.top, box.right, box.bottom}), (Rect{0, 0, form->scene().layout.window.width, 24}));
-    form->SetRolledUp(false);
-    EXPECT_EQ(::GetWindowRgn(form->hwnd(), probe.get()), ERROR);
 }
 
 TEST_F(MenuWindowTest, ItemIconsComeFromIconPathWithAnIndexAndGoWithDestroyIconHandles) {
