@@ -249,7 +249,8 @@ TEST_F(TaskbarReplacement, AStartAfterTheProgramWasKilledPutsBackTheTaskbarAndSa
     ASSERT_TRUE(Shown(kSystrayClass));
     ASSERT_FALSE(::IsWindowVisible(taskbar));
     ASSERT_TRUE(tarvex.Kill());
-    ASSERT_FALSE(::IsWindow(notifyArea)) << "the notification area went with the program's window";
+    ASSERT_TRUE(WaitUntil([&] { return !::IsWindow(notifyArea); }, 10s))
+        << "the notification area goes with the program's window";
 
     folder.WriteSettings(HotspotSettings({TestHotspot{}}));
     Tarvex again;
