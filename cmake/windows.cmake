@@ -34,11 +34,13 @@ set_source_files_properties(${CMAKE_SOURCE_DIR}/resources/tarvex2.rc PROPERTIES
 
 # Files the program expects beside itself, copied again whenever one of them changes.
 file(GLOB aurora_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/themes/Aurora/*)
-set(beside_exe_sources ${CMAKE_SOURCE_DIR}/resources/DefMenu.ini ${aurora_files})
+file(GLOB help_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/help/Tv2/*)
+set(beside_exe_sources ${CMAKE_SOURCE_DIR}/resources/DefMenu.ini ${aurora_files} ${help_files})
 set(beside_exe_outputs)
 foreach(source IN LISTS beside_exe_sources)
     file(RELATIVE_PATH relative ${CMAKE_SOURCE_DIR}/resources ${source})
     string(REPLACE "themes/" "Themes/" relative ${relative})
+    string(REPLACE "help/" "Help/" relative ${relative})
     set(output ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${relative})
     add_custom_command(OUTPUT ${output}
         COMMAND ${CMAKE_COMMAND} -E copy_if_different ${source} ${output}
