@@ -67,8 +67,7 @@ protected:
 TEST_F(TaskListMenus, ATaskListItemListsTheRunningProgramsKeepsCurrentAndChoosingOneRestoresIt) {
     OtherProgram notepad;
     ASSERT_TRUE(notepad.Start(L"notepad.exe", "Notepad"));
-    ::ShowWindow(notepad.hwnd(), SW_MINIMIZE);
-    ASSERT_TRUE(WaitUntil([&] { return ::IsIconic(notepad.hwnd()) != FALSE; }, 5s));
+    ASSERT_TRUE(notepad.Minimise());
 
     ASSERT_NO_FATAL_FAILURE(Start(StartupMenuSettings("Programs", 200, 120, "ButtonIcons=True\n"),
                                   {{"Programs", {Item("Running", 4, "")}}}));

@@ -170,8 +170,7 @@ protected:
 TEST_F(TaskbarReplacement, TheTaskListWindowAndTheSystrayCopyComeAndGoByCommand) {
     OtherProgram notepad;
     ASSERT_TRUE(notepad.Start(L"notepad.exe", "Notepad"));
-    ::ShowWindow(notepad.hwnd(), SW_MINIMIZE);
-    ASSERT_TRUE(WaitUntil([&] { return ::IsIconic(notepad.hwnd()) != FALSE; }, 5s));
+    ASSERT_TRUE(notepad.Minimise());
     ASSERT_NO_FATAL_FAILURE(Start(CommandHotspots({"*36", "*37", "*34", "*35"}, "SystrayStyle=1\n")));
 
     EXPECT_TRUE(Command(1, Showing(kTaskListClass))) << "*36 shows the task list";

@@ -19,6 +19,11 @@ bool OtherProgram::Start(const std::wstring& commandLine, const std::string& win
     return window_.has_value();
 }
 
+bool OtherProgram::Minimise() {
+    ::ShowWindow(hwnd(), SW_MINIMIZE);
+    return WaitUntil([this] { return ::IsIconic(hwnd()) != FALSE; }, 5s);
+}
+
 void OtherProgram::End() {
     if (!process_)
         return;

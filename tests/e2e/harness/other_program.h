@@ -21,6 +21,8 @@ public:
     // Starts the command line and waits for the program's first visible window of the class.
     bool Start(const std::wstring& commandLine, const std::string& windowClass, Duration timeout = 20s);
     void End();
+    // Minimises its window and waits until it is.
+    bool Minimise();
 
     HWND hwnd() const { return window_ ? window_->hwnd : nullptr; }
     const WindowInfo& window() const { return *window_; }
