@@ -46,6 +46,29 @@ std::string CurrentDirectoryOfDrive(char drive) {
     return Win::Narrow(std::wstring_view(buffer, n));
 }
 
+// A list of NUL-ended strings ended by another NUL, as the profile functions return
+// lists; the buffer grows until the list is whole.
+template <class Read>
+std::vector<std::wstring> ReadList(Read read) {
+    std::vector<wchar_t> buffer;
+    DWORD n = 0;
+    for (DWORD size = kKeyListBufferSize; size <= kKeyListBufferLimit; size *= 2) {
+        buffer.assign(size, L'\0');
+        n = read(buffer.data(), size);
+        if (n + 2 < size)
+            break;
+    }
+    std::vector<std::wstring> list;
+    for (std::size_t pos = 0; pos < n;) {
+        std::wstring_view item(buffer.data() + pos);
+        if (item.empty())
+            break;
+        list.emplace_back(item);
+        pos += item.size() + 1;
+    }
+    return list;
+}
+
 } // namespace
 
 void SetTarget(std::string_view section, std::string_view file) {
@@ -76,31 +99,18 @@ std::int16_t ReadSection(ProfileSection& table) {
     const Target& t = CurrentTarget();
     if (!t.registered)
         return 0;
-    // The key list starts at 16384 characters and grows until it is whole: a cut list
-    // would drop the keys past the cut, and the next save of a menu file would then
-    // delete those items for good.
-    std::vector<wchar_t> names;
-    DWORD n = 0;
-    for (DWORD size = kKeyListBufferSize; size <= kKeyListBufferLimit; size *= 2) {
-        names.assign(size, L'\0');
-        n = ::GetPrivateProfileStringW(t.section.c_str(), nullptr, L"", names.data(), size, t.file.c_str());
-        if (n + 2 < size)
-            break;
-    }
-    std::size_t count = 0;
-    std::size_t pos = 0;
-    while (pos < n) {
-        std::wstring_view name(names.data() + pos);
-        if (name.empty())
-            break;
+    // The key list grows until it is whole: a cut list would drop the keys past the
+    // cut, and the next save of a menu file would then delete those items for good.
+    std::vector<std::wstring> names = ReadList([&](wchar_t* buffer, DWORD size) {
+        return ::GetPrivateProfileStringW(t.section.c_str(), nullptr, L"", buffer, size, t.file.c_str());
+    });
+    for (const std::wstring& name : names) {
         std::string key = Win::Narrow(name);
         std::string value = ReadValue(key, "");
         table.push_back({std::move(key), std::move(value)});
-        ++count;
-        pos += name.size() + 1;
     }
     // The table holds them all; the count is 16 bits, as callers expect.
-    return static_cast<std::int16_t>(std::min<std::size_t>(count, INT16_MAX));
+    return static_cast<std::int16_t>(std::min<std::size_t>(names.size(), INT16_MAX));
 }
 
 ProfileSection ReadWholeSection(std::string_view section, std::string_view file) {
@@ -108,6 +118,25 @@ ProfileSection ReadWholeSection(std::string_view section, std::string_view file)
     ProfileSection table;
     ReadSection(table);
     return table;
+}
+
+std::vector<NamedSection> ReadWholeFile(std::string_view file) {
+    const std::wstring wideFile = Win::Widen(file);
+    std::vector<NamedSection> sections;
+    for (const std::wstring& name : ReadList([&](wchar_t* buffer, DWORD size) {
+             return ::GetPrivateProfileSectionNamesW(buffer, size, wideFile.c_str());
+         })) {
+        NamedSection section{Win::Narrow(name), {}};
+        for (const std::wstring& line : ReadList([&](wchar_t* buffer, DWORD size) {
+                 return ::GetPrivateProfileSectionW(name.c_str(), buffer, size, wideFile.c_str());
+             })) {
+            std::size_t equals = line.find(L'=');
+            if (equals != std::wstring::npos)
+                section.entries.push_back({Win::Narrow(line.substr(0, equals)), Win::Narrow(line.substr(equals + 1))});
+        }
+        sections.push_back(std::move(section));
+    }
+    return sections;
 }
 
 bool CreateUnicodeProfile(std::string_view file) {

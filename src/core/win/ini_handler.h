@@ -4,10 +4,12 @@
 #pragma once
 
 #include "core/profile.h"
+#include "core/profile_merge.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace IniHandler {
 
@@ -32,6 +34,10 @@ bool WriteAll(std::string_view file, const ProfileWrites& writes);
 
 // Reads a whole section of a file (sets the current target).
 ProfileSection ReadWholeSection(std::string_view section, std::string_view file);
+
+// Every section of a file as it stands, in file order: each "key=value" line split at
+// its first '=', values whole (not cut, quotes kept). A missing file gives none.
+std::vector<NamedSection> ReadWholeFile(std::string_view file);
 
 // The folder of a path, upper-cased, with a trailing backslash.
 std::string FolderOfPath(std::string_view path);

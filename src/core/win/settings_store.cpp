@@ -33,6 +33,10 @@ bool Save(std::string_view file, bool themeOnly, const SettingsRec& settings) {
     return IniHandler::WriteAll(file, SaveSettings(settings, themeOnly));
 }
 
+ProfileRewrite::Result SaveAtomically(std::string_view file, const ProfileWrites& writes) {
+    return ProfileRewrite::Rewrite(file, MergeChanges(IniHandler::ReadWholeFile(file), writes));
+}
+
 ProgramFolders ReadProgramFolders(std::string_view windowsFolder, bool isNT) {
     ProgramFolders shellFolders{
         ShellFolder("Programs", false),

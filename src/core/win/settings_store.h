@@ -4,6 +4,7 @@
 
 #include "core/program_folders.h"
 #include "core/settings.h"
+#include "core/win/profile_rewrite.h"
 
 #include <string_view>
 
@@ -17,6 +18,11 @@ void Load(std::string_view file, bool themeOnly, SettingsRec& settings);
 // file holds besides them stay. A new file is UTF-16 with a byte-order mark. False when
 // the file could not be written.
 bool Save(std::string_view file, bool themeOnly, const SettingsRec& settings);
+
+// Writes the given keys into the file in one step: the file is rewritten whole through a
+// temporary file, with every other key and section it holds kept, so that it is never
+// seen half-written. On failure the file stays as it was and the result says why.
+ProfileRewrite::Result SaveAtomically(std::string_view file, const ProfileWrites& writes);
 
 // The "Programs", "Common Programs" and "Desktop" values of Explorer's Shell Folders,
 // with the fallbacks under the Windows folder for those that are missing.

@@ -2,7 +2,7 @@
 
 #include "core/message_box.h"
 #include "core/win/ini_handler.h"
-#include "menus/win/profile_rewrite.h"
+#include "core/win/profile_rewrite.h"
 #include "win/text_convert.h"
 
 namespace DesktopWindows {

@@ -4,7 +4,7 @@
 #include "core/paths.h"
 #include "core/win/ini_handler.h"
 #include "menus/menu_file.h"
-#include "menus/win/profile_rewrite.h"
+#include "core/win/profile_rewrite.h"
 
 namespace MenuStore {
 

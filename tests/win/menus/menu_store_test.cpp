@@ -5,7 +5,7 @@
 #include "menus/menu_editing.h"
 #include "menus/menu_file.h"
 #include "menus/win/menu_store.h"
-#include "menus/win/profile_rewrite.h"
+#include "core/win/profile_rewrite.h"
 #include "support/temp_folder.h"
 #include "win/handles.h"
 #include "win/text_convert.h"

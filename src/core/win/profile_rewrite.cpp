@@ -1,4 +1,4 @@
-#include "menus/win/profile_rewrite.h"
+#include "core/win/profile_rewrite.h"
 
 #include "core/win/ini_handler.h"
 #include "win/handles.h"
