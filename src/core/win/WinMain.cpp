@@ -12,9 +12,11 @@
 
 namespace {
 
-int RunMessageLoop() {
+int RunMessageLoop(Form1& form1) {
     MSG msg;
     while (::GetMessageW(&msg, nullptr, 0, 0) > 0) {
+        if (form1.TranslatePreferencesMessage(msg))
+            continue;
         ::TranslateMessage(&msg);
         ::DispatchMessageW(&msg);
     }
@@ -35,5 +37,5 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR arguments, int) {
         return 1;
     if (form1.Form_Load() == Form1::LoadResult::EndProcess)
         return 0;
-    return RunMessageLoop();
+    return RunMessageLoop(form1);
 }

@@ -1,7 +1,10 @@
 #include "core/win/form1.h"
 
 #include "core/message_box.h"
+#include "core/win/autostart.h"
 #include "core/win/subroutines.h"
+#include "desktop/win/desktop_windows.h"
+#include "menuwindow/win/form2.h"
 #include "win/text_convert.h"
 
 #include <windowsx.h>
@@ -10,6 +13,9 @@ namespace {
 
 constexpr UINT kPopSetup = 1;
 constexpr UINT kPopExit = 2;
+
+// Posted by the preferences window as it closes: its object goes once its message is over.
+constexpr UINT kPreferencesClosedMessage = WM_APP + 10;
 
 HICON ProgramIcon(const Program& program, int size) {
     return Win::LoadProgramIcon(program.instance, program.iconResource, size);
@@ -90,6 +96,10 @@ LRESULT Form1::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPar
     case WM_DESTROY:
         ::PostQuitMessage(0);
         return 0;
+    case kPreferencesClosedMessage:
+        if (preferences_ && !preferences_->hwnd())
+            preferences_.reset();
+        return 0;
     default:
         if (message == taskbarCreatedMessage_ && message != 0) {
             if (trayIcon_.shown())
@@ -151,15 +161,54 @@ void Form1::mPopExit_Click() {
     Subroutines::ExitProgram(*this, false);
 }
 
-// The one place that opens the preferences window. That window is not part of this
-// build yet, so the user is told so instead of being shown nothing.
+// The one place that opens the preferences window.
 void Form1::Show_Setup_Screen() {
     program_.values.PreferencesOpen = true;
-    MessageBoxes::MsgBox("The preferences window is not part of this version of Tarvex yet.\n\n"
-                         "Your settings are kept in " +
-                             SettingsFile(program_.values) + ".",
-                         "Tarvex Preferences", MessageBoxes::kInformation);
+    if (preferences_ && !preferences_->hwnd())
+        preferences_.reset(); // closed, its object not gone yet
+    if (preferences_) {
+        preferences_->BringForward();
+        return;
+    }
+    preferences_ = std::make_unique<PrefsWin::PreferencesWindow>(program_, *this);
+    if (!preferences_->Create()) {
+        preferences_.reset();
+        program_.values.PreferencesOpen = false;
+    }
+}
+
+bool Form1::TranslatePreferencesMessage(MSG& message) {
+    return preferences_ && preferences_->TranslateDialogMessage(message);
+}
+
+void Form1::SettingsApplied(const SettingsRec& before) {
+    const SettingsRec& now = program_.settings;
+    {
+        BusyScope busy(program_.RebuildBusy);
+        const MenuWindow::CascadeList& records = program_.openMenus.records();
+        for (int index = 1; index <= records.Count(); ++index) {
+            if (Form2* window = program_.openMenus.WindowOf(records.At(index).id)) {
+                window->SetLocalVariables();
+                window->PaintMenu();
+            }
+        }
+    }
+    if (now.GenShowInTray != before.GenShowInTray) {
+        if (now.GenShowInTray)
+            Insert_TrayIcon();
+        else
+            Remove_TrayIcon();
+    }
+    if (now.GenHideDesktopIcons != before.GenHideDesktopIcons)
+        DesktopWindows::SetDesktopIcons(
+            now.GenHideDesktopIcons ? CommandActions::Visibility::Hide : CommandActions::Visibility::Show, program_);
+    Autostart::WriteAutostartValue(now.GenAutoRun, program_.values.ProgramFolder);
+}
+
+// The window is gone once the message that closed it is over; the object goes then.
+void Form1::PreferencesClosed() {
     program_.values.PreferencesOpen = false;
+    ::PostMessageW(window_.get(), kPreferencesClosedMessage, 0, 0);
 }
 
 void Form1::Insert_TrayIcon() {
@@ -177,6 +226,7 @@ void Form1::Form_Unload() {
 
 void Form1::Unload() {
     Form_Unload();
+    preferences_.reset();
     window_.reset();
 }
 

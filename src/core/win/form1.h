@@ -9,14 +9,16 @@
 #include "desktop/win/hotspot_timers.h"
 #include "desktop/win/taskbar_replacement.h"
 #include "menus/win/menu_launcher.h"
+#include "prefs/win/preferences_window.h"
 #include "win/form_window.h"
 #include "win/handles.h"
 
 #include <windows.h>
 
+#include <memory>
 #include <optional>
 
-class Form1 {
+class Form1 : public PrefsWin::PreferencesHost {
 public:
     // The class of the main form's window; the single-instance search looks for it.
     static constexpr const wchar_t* kClassName = L"Tarvex2MainForm";
@@ -33,9 +35,13 @@ public:
     // The start-up sequence. EndProcess when another instance was brought forward.
     LoadResult Form_Load();
 
+    // Opens the preferences window, or brings the open one forward.
     void Show_Setup_Screen();
     // Opens the preferences unless they are open already.
     void OpenPreferences();
+    // The dialog keys of the preferences window, for the message loop.
+    bool TranslatePreferencesMessage(MSG& message);
+    PrefsWin::PreferencesWindow* preferences() const { return preferences_.get(); }
     void Insert_TrayIcon();
     void Remove_TrayIcon();
     bool TrayIconShown() const { return trayIcon_.shown(); }
@@ -50,6 +56,11 @@ public:
 private:
     friend LRESULT CALLBACK Win::FormWindowProc<Form1>(HWND, UINT, WPARAM, LPARAM);
     LRESULT HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
+
+    // Applied settings reach every open menu window, the tray icon, the desktop icons
+    // and the autostart value; hotspots keep quiet meanwhile.
+    void SettingsApplied(const SettingsRec& before) override;
+    void PreferencesClosed() override;
 
     void Form_MouseMove(WPARAM buttons, int x, int y);
     void Form_EndSession();
@@ -91,6 +102,7 @@ private:
     MenuLauncher menuLauncher_{*this};
     HotspotTimers hotspotTimers_{*this};
     TaskbarReplacement taskbarReplacement_{program_};
+    std::unique_ptr<PrefsWin::PreferencesWindow> preferences_;
     std::optional<POINT> parkedAt_; // where ParkOffScreen put the form
     UINT taskbarCreatedMessage_ = 0;
     StartupRules::CommandLineWords commandLineWords_;

@@ -137,9 +137,9 @@ void Form1::OpenPreferencesAtStart() {
     }
 }
 
-// The introduction comes once: when the preferences have not written the settings
-// file by the time they close, the settings as they stand are written, so that the
-// next start is not a first run again. A folder that refuses the file is told, or the
+// The introduction comes once: unless the settings file is there by the time the
+// preferences window is open, the settings as they stand are written, so that the next
+// start is not a first run again. A folder that refuses the file is told, or the
 // user would meet the introduction at every start without knowing why.
 void Form1::RunFirstRun() {
     program_.values.PreferencesOpen = true;

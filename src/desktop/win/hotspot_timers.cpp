@@ -161,7 +161,7 @@ bool HotspotTimers::Dispatch() {
     if (std::optional<Hotspots::HotKey> general = Hotspots::GeneralHotKey(program.settings)) {
         Hotspots::HotKeyWatch::State state = hotKeys_.Check(*general, down);
         if (state == Hotspots::HotKeyWatch::State::Pressed)
-            form1_.OpenPreferences();
+            form1_.Show_Setup_Screen();
         if (state != Hotspots::HotKeyWatch::State::Up)
             return true;
     }

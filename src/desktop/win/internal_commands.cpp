@@ -92,8 +92,7 @@ std::int16_t RunInternalCommand(Form1& form1, std::int16_t code) {
         Subroutines::ExitProgram(form1, false);
         break;
     case Kind::Preferences:
-        if (!program.values.PreferencesOpen)
-            form1.Show_Setup_Screen();
+        form1.Show_Setup_Screen();
         break;
     case Kind::Help:
         ShowHelp(program);

@@ -110,10 +110,10 @@ bool EjectMedia(char drive) {
            Control(volume.get(), IOCTL_STORAGE_EJECT_MEDIA);
 }
 
-std::intptr_t OpenHelpPage(const std::string& helpFolder) {
-    std::string page = helpFolder + "\\";
-    page += CommandActions::kHelpPage;
-    HINSTANCE result = ::ShellExecuteW(nullptr, L"open", Win::Widen(page).c_str(), nullptr,
+std::intptr_t OpenHelpPage(const std::string& helpFolder, std::string_view page) {
+    std::string file = helpFolder + "\\";
+    file += page;
+    HINSTANCE result = ::ShellExecuteW(nullptr, L"open", Win::Widen(file).c_str(), nullptr,
                                        Win::Widen(helpFolder).c_str(), SW_SHOWNORMAL);
     return reinterpret_cast<std::intptr_t>(result);
 }

@@ -30,6 +30,6 @@ void OpenSpecialFolder(CommandActions::SpecialFolder folder);
 bool EjectMedia(char drive);
 
 // Opens the help page of the help folder; the shell's result (below 33 is a failure).
-std::intptr_t OpenHelpPage(const std::string& helpFolder);
+std::intptr_t OpenHelpPage(const std::string& helpFolder, std::string_view page = CommandActions::kHelpPage);
 
 } // namespace ShellActions

@@ -46,8 +46,9 @@ bool Form2::Create() {
         return false;
     // A tool window never gets a taskbar button; the menu has no border or caption of
     // the system's, it paints all of itself.
-    DWORD exStyle = WS_EX_TOOLWINDOW | (openMenus_.forceOnTop ? WS_EX_TOPMOST : 0);
-    HWND hwnd = ::CreateWindowExW(exStyle, kClassName, L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, instance, this);
+    DWORD exStyle = host_ ? 0 : WS_EX_TOOLWINDOW | (openMenus_.forceOnTop ? WS_EX_TOPMOST : 0);
+    DWORD style = host_ ? WS_CHILD | WS_CLIPSIBLINGS : WS_POPUP;
+    HWND hwnd = ::CreateWindowExW(exStyle, kClassName, L"", style, 0, 0, 0, 0, host_, nullptr, instance, this);
     if (!hwnd)
         return false;
     SetLocalVariables();
@@ -126,6 +127,12 @@ void Form2::Form_Unload() {
 Form2* Form2::Parent() const {
     const MenuWindow::CascadeRec* record = openMenus_.records().Find(id_);
     return record && record->level > 1 ? openMenus_.WindowOf(record->parentId) : nullptr;
+}
+
+MenuWindow::Rect Form2::ScreenBounds() const {
+    RECT rect{};
+    ::GetWindowRect(window_.get(), &rect);
+    return {rect.left, rect.top, rect.right, rect.bottom};
 }
 
 std::optional<MenuWindow::Point> Form2::CursorInWindow() const {

@@ -43,6 +43,9 @@ public:
     Form2(const Form2&) = delete;
     Form2& operator=(const Form2&) = delete;
 
+    // Makes the window, before Create, a child of another window instead of a popup of
+    // its own: the preferences show their sample menu so. Its place stays in screen pixels.
+    void HostIn(HWND host) { host_ = host; }
     // Creates the window hidden, takes the settings, paints and places it. False when
     // the window could not be made.
     bool Create();
@@ -135,6 +138,8 @@ private:
     void Animate(const MenuWindow::AnimationPlan& plan);
     std::optional<MenuWindow::Point> CursorInWindow() const;
     Form2* Parent() const;
+    // Where the window stands on the screen now; a hosted window moves with its host.
+    MenuWindow::Rect ScreenBounds() const;
 
     MenuWindow::CascadeRec& Record();
     MenuWindow::DisplayList BuildItemList();
@@ -155,6 +160,7 @@ private:
     std::string programFolder_;
     OpenMenus& openMenus_;
     int id_;
+    HWND host_ = nullptr;
     MenuWindow::MenuLook look_;
     MenuWindow::MenuScene scene_;
     MenuWindow::MenuFonts fonts_;

@@ -9,6 +9,8 @@ using namespace MenuWindow;
 // The new window may serve the queue while it animates, and this one may close then.
 void Form2::OpenNewMenu(int item) {
     CloseSubMenu();
+    if (host_)
+        Record().bounds = ScreenBounds();
     CascadeRec record = SubMenuRecord(Record(), scene_, item, menus_);
     int index = openMenus_.Append();
     record.id = openMenus_.records().At(index).id;

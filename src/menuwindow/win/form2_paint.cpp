@@ -92,7 +92,10 @@ void Form2::tmrUpdateTaskList_Timer() {
 
 void Form2::Place() {
     const Rect& bounds = Record().bounds;
-    ::SetWindowPos(window_.get(), nullptr, bounds.left, bounds.top, bounds.Width(), bounds.Height(),
+    POINT topLeft{bounds.left, bounds.top};
+    if (host_)
+        ::ScreenToClient(host_, &topLeft);
+    ::SetWindowPos(window_.get(), nullptr, topLeft.x, topLeft.y, bounds.Width(), bounds.Height(),
                    SWP_NOZORDER | SWP_NOACTIVATE);
 }
 

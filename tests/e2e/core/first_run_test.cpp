@@ -2,6 +2,7 @@
 // that the introduction does not come back. And the "setup" word.
 #include "harness/dialogs.h"
 #include "harness/input.h"
+#include "harness/preferences.h"
 #include "harness/program_folder.h"
 #include "harness/recording_tray.h"
 #include "harness/screen.h"
@@ -35,12 +36,8 @@ COLORREF ClientPixel(HWND window, int x, int y) {
     return ReadPixel(point.x, point.y);
 }
 
-bool IsPreferencesNotice(const std::optional<WindowInfo>& box) {
-    return box && box->title == "Tarvex Preferences";
-}
-
-// Closes the introduction with a click on its OK button and answers the preferences
-// notice that follows.
+// Closes the introduction with a click on its OK button and closes the preferences
+// window that follows.
 void GoThroughFirstRun(Tarvex& tarvex) {
     std::optional<WindowInfo> introduction = WaitForIntroduction(tarvex);
     ASSERT_TRUE(introduction);
@@ -48,9 +45,9 @@ void GoThroughFirstRun(Tarvex& tarvex) {
     ASSERT_TRUE(ok);
     ASSERT_TRUE(ClickWindow(ok->hwnd));
     ASSERT_TRUE(WaitForNoVisibleWindow(kIntroductionClass, tarvex.processId(), 10s));
-    std::optional<WindowInfo> notice = WaitForMessageBox(tarvex.processId());
-    ASSERT_TRUE(IsPreferencesNotice(notice)) << "no preferences after the introduction";
-    ASSERT_TRUE(PressButton(notice->hwnd, "OK"));
+    std::optional<WindowInfo> preferences = WaitForPreferences(tarvex.processId());
+    ASSERT_TRUE(preferences) << "no preferences after the introduction";
+    ASSERT_TRUE(CancelPreferences(preferences->hwnd, tarvex.processId()));
 }
 
 } // namespace
@@ -118,10 +115,10 @@ TEST(FirstRun, SetupOpensThePreferencesWhenTheSettingsExist) {
     Tarvex tarvex;
     ASSERT_TRUE(tarvex.Start(folder, "/SETUP"));
 
-    std::optional<WindowInfo> notice = WaitForMessageBox(tarvex.processId(), 30s);
-    ASSERT_TRUE(IsPreferencesNotice(notice));
+    std::optional<WindowInfo> preferences = WaitForPreferences(tarvex.processId());
+    ASSERT_TRUE(preferences);
     EXPECT_TRUE(WaitForNoVisibleWindow(kIntroductionClass, tarvex.processId(), 0ms));
-    ASSERT_TRUE(PressButton(notice->hwnd, "OK"));
+    ASSERT_TRUE(CancelPreferences(preferences->hwnd, tarvex.processId()));
 }
 
 TEST(FirstRun, BothWordsOnAFirstRunGiveTheIntroductionThenThePreferencesOnce) {
@@ -132,9 +129,8 @@ TEST(FirstRun, BothWordsOnAFirstRunGiveTheIntroductionThenThePreferencesOnce) {
     ASSERT_TRUE(tarvex.Start(folder, "setup autostart", elsewhere.path()));
 
     ASSERT_NO_FATAL_FAILURE(GoThroughFirstRun(tarvex));
-    ASSERT_TRUE(WaitForNoVisibleWindow(kDialogClass, tarvex.processId(), 10s));
     Settle(1s);
-    EXPECT_TRUE(WaitForNoVisibleWindow(kDialogClass, tarvex.processId(), 0ms)) << "the preferences opened twice";
+    EXPECT_TRUE(WaitForNoVisibleWindow(kPreferencesClass, tarvex.processId(), 0ms)) << "the preferences opened twice";
     EXPECT_TRUE(folder.Exists("Helmora.ini"));
     EXPECT_FALSE(elsewhere.Exists("Helmora.ini"));
 }

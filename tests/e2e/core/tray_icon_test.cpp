@@ -2,6 +2,7 @@
 #include "harness/dialogs.h"
 #include "harness/input.h"
 #include "harness/popup_menu.h"
+#include "harness/preferences.h"
 #include "harness/program_folder.h"
 #include "harness/recording_tray.h"
 #include "harness/tarvex.h"
@@ -14,18 +15,11 @@ using namespace E2e;
 
 constexpr const char* kSettings = "[TARVEX]\nGenShowInTray=True\n";
 
-int VisibleDialogs(DWORD processId) {
+int VisibleWindows(const char* className, DWORD processId) {
     int count = 0;
-    for (const WindowInfo& dialog : TopLevelWindows(kDialogClass, processId))
-        count += dialog.visible ? 1 : 0;
+    for (const WindowInfo& window : TopLevelWindows(className, processId))
+        count += window.visible ? 1 : 0;
     return count;
-}
-
-// The preferences are not part of this version: their one place says so in a box.
-void ExpectPreferencesNotice(const WindowInfo& box) {
-    EXPECT_EQ(box.title, "Tarvex Preferences");
-    EXPECT_NE(DialogText(box.hwnd).find("preferences window is not part of this version"), std::string::npos)
-        << DialogText(box.hwnd);
 }
 
 class TrayIcon : public ::testing::Test {
@@ -70,10 +64,10 @@ TEST_F(TrayIcon, IsAddedWithTheRecordThatRoutesItsClicksToTheMainFormAndAgainAft
 TEST_F(TrayIcon, RightButtonUpPopsUpTheMenuWithPreferences) {
     ASSERT_TRUE(tarvex.OpenTrayMenu());
     ChooseMenuEntry('p');
-    std::optional<WindowInfo> notice = WaitForMessageBox(tarvex.processId());
-    ASSERT_TRUE(notice) << "the Preferences entry opened nothing";
-    ExpectPreferencesNotice(*notice);
-    ASSERT_TRUE(PressButton(notice->hwnd, "OK"));
+    std::optional<WindowInfo> preferences = WaitForPreferences(tarvex.processId());
+    ASSERT_TRUE(preferences) << "the Preferences entry opened nothing";
+    EXPECT_EQ(preferences->title, "Tarvex Preferences");
+    ASSERT_TRUE(CancelPreferences(preferences->hwnd, tarvex.processId()));
 }
 
 TEST_F(TrayIcon, TheMenuClosesOnAClickElsewhere) {
@@ -85,25 +79,24 @@ TEST_F(TrayIcon, TheMenuClosesOnAClickElsewhere) {
     ClickDuringCapture(x, y);
     EXPECT_TRUE(WaitForPopupMenuGone(tarvex.processId()));
     EXPECT_TRUE(tarvex.running());
-    EXPECT_EQ(VisibleDialogs(tarvex.processId()), 0);
+    EXPECT_EQ(VisibleWindows(kDialogClass, tarvex.processId()), 0);
+    EXPECT_EQ(VisibleWindows(kPreferencesClass, tarvex.processId()), 0);
 }
 
 TEST_F(TrayIcon, ADoubleClickOpensThePreferencesButNotASecondTime) {
     tarvex.SendTrayMessage(WM_LBUTTONDBLCLK);
-    std::optional<WindowInfo> notice = WaitForMessageBox(tarvex.processId());
-    ASSERT_TRUE(notice);
-    ExpectPreferencesNotice(*notice);
+    std::optional<WindowInfo> preferences = WaitForPreferences(tarvex.processId());
+    ASSERT_TRUE(preferences);
 
     tarvex.SendTrayMessage(WM_LBUTTONDBLCLK);
     Settle(1500ms);
-    EXPECT_EQ(VisibleDialogs(tarvex.processId()), 1) << "the preferences opened while they were open";
+    EXPECT_EQ(VisibleWindows(kPreferencesClass, tarvex.processId()), 1) << "opened while they were open";
 
-    ASSERT_TRUE(PressButton(notice->hwnd, "OK"));
-    ASSERT_TRUE(WaitForNoVisibleWindow(kDialogClass, tarvex.processId(), 10s));
+    ASSERT_TRUE(CancelPreferences(preferences->hwnd, tarvex.processId()));
     tarvex.SendTrayMessage(WM_LBUTTONDBLCLK);
-    std::optional<WindowInfo> again = WaitForMessageBox(tarvex.processId());
+    std::optional<WindowInfo> again = WaitForPreferences(tarvex.processId());
     ASSERT_TRUE(again) << "closed preferences did not open again";
-    PressButton(again->hwnd, "OK");
+    EXPECT_TRUE(CancelPreferences(again->hwnd, tarvex.processId()));
 }
 
 TEST_F(TrayIcon, OtherMouseMessagesAreIgnored) {
@@ -111,7 +104,8 @@ TEST_F(TrayIcon, OtherMouseMessagesAreIgnored) {
         tarvex.SendTrayMessage(message);
     Settle(1500ms);
     EXPECT_TRUE(WaitForPopupMenuGone(tarvex.processId(), 0ms)) << "a menu popped up";
-    EXPECT_EQ(VisibleDialogs(tarvex.processId()), 0);
+    EXPECT_EQ(VisibleWindows(kDialogClass, tarvex.processId()), 0);
+    EXPECT_EQ(VisibleWindows(kPreferencesClass, tarvex.processId()), 0);
 }
 
 TEST(TrayIconSetting, NoIconWhenTheSettingIsOff) {

@@ -4,6 +4,7 @@
 #include "harness/dialogs.h"
 #include "harness/failure_screenshots.h"
 #include "harness/input.h"
+#include "harness/preferences.h"
 #include "harness/menu_files.h"
 #include "harness/menu_window.h"
 #include "harness/other_program.h"
@@ -166,10 +167,9 @@ TEST_F(Hotspots, HotKeysTappedBrieflyAndAMiddleClickAnywhereFireTheirHotspots) {
     EXPECT_TRUE(Shows({"Middle"}));
 
     TapKeys(VK_CONTROL, VK_F12, 60ms);
-    std::optional<WindowInfo> preferences = WaitForMessageBox(tarvex.processId());
+    std::optional<WindowInfo> preferences = WaitForPreferences(tarvex.processId());
     ASSERT_TRUE(preferences) << "the general hot key opens the preferences";
-    EXPECT_EQ(preferences->title, "Tarvex Preferences");
-    EXPECT_TRUE(PressButton(preferences->hwnd, "OK"));
+    EXPECT_TRUE(CancelPreferences(preferences->hwnd, tarvex.processId()));
 }
 
 TEST_F(Hotspots, ARightClickInAnotherProgramsWindowOpensItsHotspotRelativeToThatWindow) {

@@ -84,3 +84,14 @@ std::string TestProgramFolder() {
 }
 
 } // namespace E2e
+
+namespace E2e {
+
+std::string ProgramFolder::ReadValue(std::string_view section, std::string_view key) const {
+    wchar_t value[512]{};
+    ::GetPrivateProfileStringW(Win::Widen(section).c_str(), Win::Widen(key).c_str(), L"?", value, 512,
+                               Win::Widen(File("Helmora.ini")).c_str());
+    return Win::Narrow(value);
+}
+
+} // namespace E2e

@@ -40,6 +40,10 @@ public:
     // Writes TvMenus.ini the same way.
     void WriteMenus(std::string_view lines) const;
 
+    // A value of Helmora.ini as the profile functions read it; "?" for a missing key.
+    std::string ReadValue(std::string_view section, std::string_view key) const;
+    std::string ReadSetting(std::string_view key) const { return ReadValue("TARVEX", key); }
+
 private:
     bool ready_ = false;
 };

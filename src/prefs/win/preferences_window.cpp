@@ -1,0 +1,280 @@
+#include "prefs/win/preferences_window.h"
+
+#include "core/message_box.h"
+#include "core/win/settings_store.h"
+#include "desktop/win/shell_actions.h"
+#include "prefs/preference_pages.h"
+#include "prefs/preference_writes.h"
+#include "prefs/win/about_page.h"
+#include "prefs/win/sound_events.h"
+#include "win/text_convert.h"
+
+#include <commctrl.h>
+
+using namespace Preferences;
+
+namespace PrefsWin {
+
+namespace {
+
+enum ControlId { kApplyId = 10, kRevertId = 11, kHelpId = 12, kPageListId = 20 };
+
+// The window's parts, in dialog units.
+constexpr int kMargin = 7;
+constexpr int kListWidth = 84;
+constexpr int kHeadingHeight = 12;
+constexpr int kPreviewWidth = 150;
+constexpr int kPageHeight = 300;
+constexpr int kButtonWidth = 50;
+constexpr int kButtonGap = 4;
+
+constexpr const char* kDiscardQuestion = "Discard the changes you made to the preferences?";
+constexpr const char* kSettingsPage = "settings.htm";
+
+} // namespace
+
+PreferencesWindow::PreferencesWindow(Program& program, PreferencesHost& host)
+    : program_(program), host_(host), working_(program.settings), preview_(program.values.ProgramFolder) {}
+
+PreferencesWindow::~PreferencesWindow() = default;
+
+bool PreferencesWindow::Create() {
+    HINSTANCE instance = program_.instance ? program_.instance : ::GetModuleHandleW(nullptr);
+    WNDCLASSEXW wc{};
+    wc.cbSize = sizeof wc;
+    wc.lpfnWndProc = Win::FormWindowProc<PreferencesWindow>;
+    wc.hInstance = instance;
+    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
+    wc.lpszClassName = kClassName;
+    wc.hIcon = Win::LoadProgramIcon(instance, program_.iconResource, ::GetSystemMetrics(SM_CXICON));
+    wc.hIconSm = Win::LoadProgramIcon(instance, program_.iconResource, ::GetSystemMetrics(SM_CXSMICON));
+    if (!Win::RegisterFormClass(wc))
+        return false;
+
+    // The size that shows every part, kept within the screen's work area.
+    RECT frame{0, 0, font_.X(kMargin * 4 + kListWidth + kPageWidth + kPreviewWidth),
+               font_.Y(kMargin * 3 + kHeadingHeight + kPageHeight + kButtonHeight)};
+    const DWORD style = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
+    ::AdjustWindowRectEx(&frame, style, FALSE, WS_EX_CONTROLPARENT);
+    RECT work{};
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &work, 0);
+    const int width = std::min<int>(frame.right - frame.left, work.right - work.left);
+    const int height = std::min<int>(frame.bottom - frame.top, work.bottom - work.top);
+    const int left = work.left + (work.right - work.left - width) / 2;
+    const int top = work.top + (work.bottom - work.top - height) / 2;
+    if (!::CreateWindowExW(WS_EX_CONTROLPARENT | WS_EX_APPWINDOW, kClassName, kTitle, style, left, top, width, height,
+                           nullptr, nullptr, instance, this))
+        return false;
+
+    pageList_ = MakeControl(WC_LISTBOXW, L"", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_BORDER | WS_TABSTOP,
+                            kPageListId);
+    heading_ = MakeControl(WC_STATICW, L"", SS_LEFT, 0);
+    previewLabel_ = MakeControl(WC_STATICW, L"Preview", SS_LEFT, 0);
+    helpButton_ = MakeControl(WC_BUTTONW, L"&Help", BS_PUSHBUTTON | WS_TABSTOP, kHelpId);
+    rightButtons_ = {MakeControl(WC_BUTTONW, L"&Revert", BS_PUSHBUTTON | WS_TABSTOP, kRevertId),
+                     MakeControl(WC_BUTTONW, L"OK", BS_DEFPUSHBUTTON | WS_TABSTOP, IDOK),
+                     MakeControl(WC_BUTTONW, L"Cancel", BS_PUSHBUTTON | WS_TABSTOP, IDCANCEL),
+                     MakeControl(WC_BUTTONW, L"&Apply", BS_PUSHBUTTON | WS_TABSTOP, kApplyId)};
+    SetFontOfChildren(window_.get(), font_.get());
+    ::SendMessageW(heading_, WM_SETFONT, reinterpret_cast<WPARAM>(font_.bold()), FALSE);
+    for (const PageDef& page : Pages())
+        ::SendMessageW(pageList_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Win::Widen(page.title).c_str()));
+    CreatePages();
+    Form_Size();
+    ShowPage(0);
+    ::EnableWindow(rightButtons_.back(), FALSE);
+    ::ShowWindow(window_.get(), SW_SHOW);
+    BringForward();
+    ::SetFocus(pageList_);
+    return true;
+}
+
+HWND PreferencesWindow::MakeControl(const wchar_t* className, const wchar_t* text, DWORD style, int id) {
+    return MakeChild(window_.get(), className, text, style, {}, id);
+}
+
+void PreferencesWindow::CreatePages() {
+    for (const PageDef& def : Pages()) {
+        auto page = std::make_unique<PreferencePage>(def.page, working_, font_, [this] { Working_Changed(); });
+        std::vector<GroupRoom> rooms;
+        if (def.page == PrefPage::SoundAnimation)
+            rooms.push_back({"Sounds", SoundEvents::kRoomHeight});
+        if (!page->Create(window_.get(), rooms))
+            continue;
+        if (def.page == PrefPage::SoundAnimation) {
+            soundEvents_ = std::make_unique<SoundEvents>(page->hwnd(), page->Room("Sounds"), font_, working_,
+                                                         program_.values.ProgramFolder, [this] { Working_Changed(); });
+            page->roomCommands = [this](int id, int code) { return soundEvents_->Command(id, code); };
+            SetFontOfChildren(page->hwnd(), font_.get());
+        }
+        if (def.page == PrefPage::About)
+            MakeAboutPage(page->hwnd(), font_, program_);
+        pages_.push_back(std::move(page));
+    }
+}
+
+// The page list and the buttons keep their size; the page and the preview share what is left.
+void PreferencesWindow::Form_Size() {
+    RECT client{};
+    ::GetClientRect(window_.get(), &client);
+    const int margin = font_.X(kMargin);
+    const int gapY = font_.Y(kMargin);
+    const int buttonHeight = font_.Y(kButtonHeight);
+    const int buttonWidth = font_.X(kButtonWidth);
+    const int buttonsTop = client.bottom - gapY - buttonHeight;
+    const int listRight = margin + font_.X(kListWidth);
+    const int pageLeft = listRight + margin;
+    const int pageRight = pageLeft + font_.X(kPageWidth) + ::GetSystemMetrics(SM_CXVSCROLL);
+    const int headingBottom = gapY + font_.Y(kHeadingHeight);
+    const int pageBottom = buttonsTop - gapY;
+    auto place = [](HWND control, int left, int top, int right, int bottom) {
+        ::SetWindowPos(control, nullptr, left, top, std::max(0, right - left), std::max(0, bottom - top),
+                       SWP_NOZORDER | SWP_NOACTIVATE);
+    };
+    place(pageList_, margin, gapY, listRight, pageBottom);
+    place(heading_, pageLeft, gapY, pageRight, headingBottom);
+    place(previewLabel_, pageRight + margin, gapY, client.right - margin, headingBottom);
+    for (auto& page : pages_)
+        page->Place({pageLeft, headingBottom, pageRight, pageBottom});
+    place(helpButton_, margin, buttonsTop, margin + buttonWidth, buttonsTop + buttonHeight);
+    int right = client.right - margin;
+    for (auto button = rightButtons_.rbegin(); button != rightButtons_.rend(); ++button) {
+        place(*button, right - buttonWidth, buttonsTop, right, buttonsTop + buttonHeight);
+        right -= buttonWidth + font_.X(kButtonGap);
+    }
+    previewTopLeft_ = {pageRight + margin, headingBottom};
+    UpdatePreview();
+}
+
+void PreferencesWindow::ShowPage(int index) {
+    if (index < 0 || index >= static_cast<int>(pages_.size()))
+        return;
+    current_ = index;
+    ::SendMessageW(pageList_, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
+    ::SetWindowTextW(heading_, Win::Widen(PageOf(pages_[static_cast<std::size_t>(index)]->page()).heading).c_str());
+    for (std::size_t i = 0; i < pages_.size(); ++i)
+        ::ShowWindow(pages_[i]->hwnd(), static_cast<int>(i) == index ? SW_SHOWNA : SW_HIDE);
+}
+
+void PreferencesWindow::Working_Changed() {
+    UpdatePreview();
+    ::EnableWindow(rightButtons_.back(), Dirty());
+}
+
+void PreferencesWindow::UpdatePreview() {
+    preview_.Show(window_.get(), previewTopLeft_, working_);
+}
+
+bool PreferencesWindow::Dirty() const {
+    return !(working_ == program_.settings);
+}
+
+void PreferencesWindow::BringForward() {
+    HWND hwnd = window_.get();
+    if (::IsIconic(hwnd))
+        ::ShowWindow(hwnd, SW_RESTORE);
+    ::SetForegroundWindow(hwnd);
+}
+
+bool PreferencesWindow::TranslateDialogMessage(MSG& message) {
+    HWND hwnd = window_.get();
+    if (!hwnd || (message.hwnd != hwnd && !::IsChild(hwnd, message.hwnd)))
+        return false;
+    // Ctrl+Tab and Ctrl+Shift+Tab turn the pages, as in the system's own property sheets.
+    if (message.message == WM_KEYDOWN && message.wParam == VK_TAB && (::GetKeyState(VK_CONTROL) & 0x8000)) {
+        int count = static_cast<int>(pages_.size());
+        int step = (::GetKeyState(VK_SHIFT) & 0x8000) ? count - 1 : 1;
+        ShowPage((current_ + step) % count);
+        return true;
+    }
+    if (!::IsDialogMessageW(hwnd, &message))
+        return false;
+    if (current_ >= 0)
+        pages_[static_cast<std::size_t>(current_)]->EnsureVisible(::GetFocus());
+    return true;
+}
+
+bool PreferencesWindow::cmdApply_Click() {
+    if (!Dirty())
+        return true;
+    SettingsRec before = program_.settings;
+    program_.settings = working_;
+    ProfileRewrite::Result saved =
+        SettingsStore::SaveAtomically(SettingsFile(program_.values), PreferencesWrites(program_.settings));
+    host_.SettingsApplied(before);
+    ::EnableWindow(rightButtons_.back(), FALSE);
+    if (!saved.saved)
+        MessageBoxes::MsgBox("The settings are in use, but they could not be saved.\n\n" + saved.problem,
+                             "Tarvex Preferences", MessageBoxes::kExclamation);
+    return saved.saved;
+}
+
+void PreferencesWindow::cmdOK_Click() {
+    if (cmdApply_Click())
+        Close();
+}
+
+void PreferencesWindow::cmdCancel_Click() {
+    if (Dirty() && MessageBoxes::MsgBox(kDiscardQuestion, "Tarvex Preferences",
+                                        MessageBoxes::kYesNo | MessageBoxes::kQuestion) != MessageBoxes::kYes)
+        return;
+    Close();
+}
+
+// The settings file as it stands now, in the program and on every page.
+void PreferencesWindow::cmdRevert_Click() {
+    SettingsRec before = program_.settings;
+    SettingsStore::Load(SettingsFile(program_.values), false, program_.settings);
+    working_ = program_.settings;
+    for (auto& page : pages_)
+        page->Refresh();
+    if (soundEvents_)
+        soundEvents_->Refresh();
+    if (!(before == program_.settings))
+        host_.SettingsApplied(before);
+    Working_Changed();
+}
+
+void PreferencesWindow::cmdHelp_Click() {
+    ShellActions::OpenHelpPage(program_.values.HelpFolder, kSettingsPage);
+}
+
+void PreferencesWindow::Close() {
+    window_.reset();
+    host_.PreferencesClosed(); // this object may be gone afterwards
+}
+
+LRESULT PreferencesWindow::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+    switch (message) {
+    case WM_COMMAND:
+        switch (LOWORD(wParam)) {
+        case IDOK: cmdOK_Click(); return 0;
+        case IDCANCEL: cmdCancel_Click(); return 0;
+        case kApplyId: cmdApply_Click(); return 0;
+        case kRevertId: cmdRevert_Click(); return 0;
+        case kHelpId: cmdHelp_Click(); return 0;
+        case kPageListId:
+            if (HIWORD(wParam) == LBN_SELCHANGE)
+                ShowPage(static_cast<int>(::SendMessageW(pageList_, LB_GETCURSEL, 0, 0)));
+            return 0;
+        default: return 0;
+        }
+    case WM_SIZE:
+        if (wParam != SIZE_MINIMIZED && !pages_.empty())
+            Form_Size();
+        return 0;
+    case WM_CLOSE:
+        cmdCancel_Click();
+        return 0;
+    case WM_GETMINMAXINFO: {
+        auto* info = reinterpret_cast<MINMAXINFO*>(lParam);
+        info->ptMinTrackSize = {font_.X(kMargin * 3 + kListWidth + kPageWidth / 2), font_.Y(160)};
+        return 0;
+    }
+    default:
+        return ::DefWindowProcW(hwnd, message, wParam, lParam);
+    }
+}
+
+} // namespace PrefsWin

@@ -1,0 +1,149 @@
+// The preferences window as a user meets it: opened from the tray and by the general hot
+// key, a change of colour shown at once in its preview, Apply writing the file and
+// repainting an open menu, Cancel leaving the file alone, and every page on the screen.
+#include "core/settings_catalogue.h"
+#include "harness/dialogs.h"
+#include "harness/failure_screenshots.h"
+#include "harness/input.h"
+#include "harness/menu_files.h"
+#include "harness/menu_window.h"
+#include "harness/preferences.h"
+#include "harness/program_folder.h"
+#include "harness/screen.h"
+#include "harness/tarvex.h"
+#include "prefs/preference_pages.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace E2e;
+
+constexpr COLORREF kRed = RGB(255, 0, 0);
+
+std::string_view LabelOf(const char* key) {
+    return FindSetting(key)->control.label;
+}
+
+// How many pixels of a window's title band (the top rows, left of its title-bar buttons) are red.
+int RedInTitle(HWND window) {
+    RECT rect{};
+    ::GetWindowRect(window, &rect);
+    return CountInWindow(rect, {0, 2, (rect.right - rect.left) / 2, kPlainTitleHeight - 4}, kRed);
+}
+
+class Preferences : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(folder.ready());
+        TestHotspot spot;
+        spot.target = "Main";
+        spot.hotKey = VK_F5;
+        spot.left = 80;
+        spot.top = 80;
+        std::string settings = HotspotSettings({spot}, "GenShowInTray=True\nMyOwnKey=kept\n");
+        folder.WriteSettings(settings + "\r\n[Other]\r\nKeep=this\r\n");
+        folder.WriteMenus(MenuFileText({{"Main", NotepadItems({"Text Editor", "Calculator"})}}));
+        ASSERT_TRUE(tarvex.Start(folder));
+        ASSERT_TRUE(tarvex.WaitUntilReady());
+    }
+
+    HWND Open() {
+        tarvex.SendTrayMessage(WM_LBUTTONDBLCLK);
+        std::optional<WindowInfo> window = WaitForPreferences(tarvex.processId());
+        return window ? window->hwnd : nullptr;
+    }
+
+    // Picks pure red for TitleColor in the colour dialog, typing into its Red field.
+    ::testing::AssertionResult ChooseRedTitle(HWND preferences) {
+        std::optional<WindowInfo> change = ControlBesideLabel(preferences, LabelOf("TitleColor"), "Button");
+        if (!change || !ClickWindow(change->hwnd))
+            return ::testing::AssertionFailure() << "no colour button for the title colour";
+        std::optional<WindowInfo> dialog = WaitForMessageBox(tarvex.processId());
+        if (!dialog)
+            return ::testing::AssertionFailure() << "no colour dialog";
+        for (int field : {706, 707, 708}) { // red, green, blue
+            ClickWindow(::GetDlgItem(dialog->hwnd, field));
+            PressKey(VK_END);
+            TapKeys(VK_SHIFT, VK_HOME, 60ms);
+            for (char digit : std::string(field == 706 ? "255" : "0"))
+                PressKey(static_cast<WORD>(digit));
+        }
+        if (!PressButton(dialog->hwnd, "OK"))
+            return ::testing::AssertionFailure() << "the colour dialog did not close";
+        return ::testing::AssertionSuccess();
+    }
+
+    ProgramFolder folder;
+    Tarvex tarvex;
+};
+
+} // namespace
+
+TEST_F(Preferences, TheTrayIconOpensALargeWindowOfControlsAndTheHotKeyBringsTheSameOneForward) {
+    HWND window = Open();
+    ASSERT_TRUE(window);
+    WindowInfo info = DescribeWindow(window);
+    EXPECT_EQ(info.title, "Tarvex Preferences");
+    EXPECT_GE(info.rect.right - info.rect.left, 600);
+    EXPECT_GE(info.rect.bottom - info.rect.top, 400);
+    EXPECT_GE(AllControls(window).size(), 150u) << "a page for every key";
+    ASSERT_TRUE(PreviewWindow(window)) << "no preview menu";
+
+    tarvex.SendTrayMessage(WM_LBUTTONDBLCLK); // open already: nothing happens
+    TapKeys(VK_CONTROL, VK_F12, 60ms);        // the general hot key brings it forward
+    EXPECT_TRUE(WaitUntil([&] { return ::GetForegroundWindow() == window; }, 10s));
+    Settle(500ms);
+    EXPECT_EQ(TopLevelWindows(kPreferencesClass, tarvex.processId()).size(), 1u);
+    EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
+}
+
+TEST_F(Preferences, ATitleColourShowsInThePreviewAtOnceAndApplyWritesItAndRepaintsAnOpenMenu) {
+    TapKeys(VK_CONTROL, VK_F5, 60ms);
+    std::optional<WindowInfo> menu = WaitForMenuWindow(tarvex.processId());
+    ASSERT_TRUE(menu);
+    ASSERT_TRUE(WaitForSteadyImage(menu->hwnd));
+    const std::string before = folder.ReadBytes("Helmora.ini");
+
+    HWND window = Open();
+    ASSERT_TRUE(window);
+    std::optional<WindowInfo> preview = PreviewWindow(window);
+    ASSERT_TRUE(preview);
+    EXPECT_EQ(RedInTitle(preview->hwnd), 0);
+    ASSERT_TRUE(ChooseRedTitle(window));
+    EXPECT_TRUE(WaitUntil([&] { return RedInTitle(preview->hwnd) > 100; }, 10s)) << "the preview kept its colour";
+    SaveNamedScreenshot("preferences-title-colour");
+    EXPECT_EQ(folder.ReadBytes("Helmora.ini"), before) << "nothing is saved before Apply";
+    EXPECT_EQ(RedInTitle(menu->hwnd), 0) << "the open menu changed before Apply";
+
+    std::optional<WindowInfo> apply = VisibleControl(window, "Button", "&Apply");
+    ASSERT_TRUE(apply && ClickWindow(apply->hwnd));
+    EXPECT_TRUE(WaitUntil([&] { return RedInTitle(menu->hwnd) > 100; }, 10s)) << "the open menu kept its colour";
+    ASSERT_TRUE(WaitUntil([&] { return folder.ReadSetting("TitleColor") == "255"; }, 10s));
+    EXPECT_EQ(folder.ReadSetting("MyOwnKey"), "kept");
+    EXPECT_EQ(folder.ReadSetting("ButtonVSize"), std::to_string(kPlainButtonHeight));
+    EXPECT_EQ(folder.ReadValue("Other", "Keep"), "this");
+    EXPECT_EQ(folder.ReadSetting("HotSpot0Hotkey"), std::to_string(VK_F5));
+
+    // A change, then Cancel: the question, and the file as it was.
+    const std::string applied = folder.ReadBytes("Helmora.ini");
+    std::optional<WindowInfo> flat = VisibleControl(window, "Button", FindSetting("TitleFlat")->control.label);
+    ASSERT_TRUE(flat && ClickWindow(flat->hwnd));
+    EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
+    EXPECT_EQ(folder.ReadBytes("Helmora.ini"), applied);
+}
+
+TEST_F(Preferences, EveryPageFitsItsWindow) {
+    HWND window = Open();
+    ASSERT_TRUE(window);
+    for (const ::Preferences::PageDef& page : ::Preferences::Pages()) {
+        ASSERT_TRUE(ShowPreferencePage(window, page.title)) << page.title;
+        EXPECT_TRUE(WaitUntil([&] { return VisibleControl(window, "Static", page.heading).has_value(); }, 10s))
+            << page.heading;
+        Settle(300ms);
+        std::string name(page.title);
+        std::replace(name.begin(), name.end(), ' ', '-');
+        SaveNamedScreenshot("preferences-" + name);
+    }
+    EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
+}
