@@ -3,8 +3,6 @@
 #include "core/text.h"
 
 #include <algorithm>
-#include <cmath>
-#include <limits>
 #include <string>
 
 namespace Preferences {

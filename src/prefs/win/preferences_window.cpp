@@ -6,7 +6,6 @@
 #include "prefs/preference_pages.h"
 #include "prefs/preference_writes.h"
 #include "prefs/win/about_page.h"
-#include "prefs/win/sound_events.h"
 #include "win/text_convert.h"
 
 #include <commctrl.h>

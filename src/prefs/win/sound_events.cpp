@@ -1,6 +1,7 @@
 #include "prefs/win/sound_events.h"
 
 #include "core/message_box.h"
+#include "core/win/system_values.h"
 #include "menuwindow/look/program_relative.h"
 #include "menuwindow/win/play_sound.h"
 #include "prefs/sound_page.h"
@@ -21,12 +22,6 @@ enum ControlId { kListId = SoundEvents::kFirstId, kBrowseId, kPlayId, kRemoveId,
 
 constexpr int kButtonWidth = 50;
 constexpr int kGap = 4;
-
-bool FileExists(const std::string& path) {
-    DWORD attributes = ::GetFileAttributesW(Win::Widen(path).c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
-}
-
 
 } // namespace
 
@@ -77,7 +72,7 @@ void SoundEvents::Refresh() {
     for (std::size_t event = 0; event < working_.SoundFx.size(); ++event) {
         const std::string& path = working_.SoundFx[event];
         std::wstring shown = Win::Widen(path);
-        if (!path.empty() && !FileExists(MenuWindow::ResolveProgramRelative(path, programFolder_)))
+        if (!path.empty() && !SystemValues::FileExists(MenuWindow::ResolveProgramRelative(path, programFolder_)))
             shown += L"  (not found)";
         ListView_SetItemText(list_, static_cast<int>(event), 1, shown.data());
     }
@@ -115,7 +110,7 @@ void SoundEvents::cmdPlay_Click() {
         ::SetWindowTextW(note_, L"No sound chosen.");
         return;
     }
-    if (!FileExists(path)) {
+    if (!SystemValues::FileExists(path)) {
         ::SetWindowTextW(note_, L"The file is not there.");
         return;
     }
