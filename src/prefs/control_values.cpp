@@ -95,6 +95,24 @@ NumberInput ReadNumberInput(std::string_view text, const PrefControl& control, s
     return input;
 }
 
+std::string FontNote(bool installed) {
+    return installed ? std::string() : "Not installed: Arial is used";
+}
+
+std::string PictureFolderNote(std::string_view bitmapsFolder, bool folderFound,
+                              std::span<const std::string> notPictures) {
+    if (bitmapsFolder.empty())
+        return {};
+    if (!folderFound)
+        return "Folder not found: no pictures are drawn";
+    if (notPictures.empty())
+        return {};
+    std::string note = notPictures.size() == 1 ? "Not a picture: " : "Not pictures: ";
+    for (std::size_t i = 0; i < notPictures.size(); ++i)
+        note += (i ? ", " : "") + notPictures[i];
+    return note;
+}
+
 FontKeys FontKeysOf(const SettingDef& fontKey) {
     std::string stem(fontKey.name);
     return {FindSetting(stem + "Size"), FindSetting(stem + "Bold"), FindSetting(stem + "Italic"),

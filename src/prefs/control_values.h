@@ -9,6 +9,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -54,6 +55,14 @@ struct FontKeys {
     const SettingDef* colour = nullptr;
 };
 FontKeys FontKeysOf(const SettingDef& fontKey);
+
+// The word under a font button: the menus draw a face that is not installed in Arial.
+std::string FontNote(bool installed);
+
+// The word under the pictures folder: a folder that is not there, else the files the
+// look draws from it that did not load as pictures (they are drawn without).
+std::string PictureFolderNote(std::string_view bitmapsFolder, bool folderFound,
+                              std::span<const std::string> notPictures);
 
 // A corner number (0 top left, 1 top right, 2 bottom left, 3 bottom right) in two halves.
 struct CornerHalves {

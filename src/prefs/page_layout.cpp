@@ -20,6 +20,7 @@ constexpr int kSwatchWidth = 24;
 constexpr int kColourButtonWidth = 50;
 constexpr int kBrowseWidth = 46;
 constexpr int kHotKeyWidth = 90;
+constexpr int kNoteHeight = 9;   // the line under a font or folder row that says what is wrong
 
 int RoomOf(std::span<const GroupRoom> rooms, std::string_view group) {
     for (const GroupRoom& room : rooms)
@@ -33,7 +34,8 @@ DluRect OnRow(int x, int y, int width, int height) {
     return {x, y + (kRowHeight - height) / 2, width, height};
 }
 
-// One key's row (two for a corner), starting at top; returns the rows' height.
+// One key's row (two for a corner, a line more for a font or a folder's note), starting
+// at top; returns the rows' height.
 int PlaceKey(PlacedKey& placed, int left, int top, int width) {
     const int labelWidth = width * kLabelShare / 100;
     const int fieldLeft = left + labelWidth + kGap;
@@ -55,7 +57,8 @@ int PlaceKey(PlacedKey& placed, int left, int top, int width) {
     case ControlKind::Folder:
         placed.control = OnRow(fieldLeft, top, fieldWidth - kBrowseWidth - kGap, kControlHeight);
         placed.second = OnRow(left + width - kBrowseWidth, top, kBrowseWidth, kButtonHeight);
-        break;
+        placed.note = {fieldLeft, top + kRowHeight, fieldWidth, kNoteHeight};
+        return kRowHeight + kNoteHeight;
     case ControlKind::HotKey:
         placed.control = OnRow(fieldLeft, top, kHotKeyWidth, kControlHeight);
         placed.note = OnRow(fieldLeft + kHotKeyWidth + kGap, top, fieldWidth - kHotKeyWidth - kGap, 8);
@@ -67,7 +70,8 @@ int PlaceKey(PlacedKey& placed, int left, int top, int width) {
         return 2 * kRowHeight;
     case ControlKind::Font:
         placed.control = OnRow(fieldLeft, top, fieldWidth, kButtonHeight);
-        break;
+        placed.note = {fieldLeft, top + kRowHeight, fieldWidth, kNoteHeight};
+        return kRowHeight + kNoteHeight;
     case ControlKind::Choice:
     case ControlKind::None:
         placed.control = OnRow(fieldLeft, top, fieldWidth, kControlHeight);

@@ -5,6 +5,7 @@
 
 #include "core/settings_catalogue.h"
 
+#include <array>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,9 @@ struct PageDef {
     std::string_view heading;                 // above the page's controls
     std::span<const std::string_view> groups; // the group boxes, in the order they are shown
 };
+
+// The window's own buttons: Help at the left, then Revert, OK, Cancel and Apply at the right.
+inline constexpr std::array<std::string_view, 5> kWindowButtons = {"&Help", "&Revert", "OK", "Cancel", "&Apply"};
 
 // Every page, in the order of the page list.
 std::span<const PageDef> Pages();

@@ -101,6 +101,11 @@ bool FileExists(std::string_view path) {
     return attributes != INVALID_FILE_ATTRIBUTES && !(attributes & FILE_ATTRIBUTE_DIRECTORY);
 }
 
+bool FolderExists(std::string_view path) {
+    DWORD attributes = ::GetFileAttributesW(Win::Widen(path).c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
 void CreateFolder(std::string_view path) {
     ::CreateDirectoryW(Win::Widen(path).c_str(), nullptr);
 }

@@ -28,6 +28,7 @@ std::string ExecutableFolder();
 std::string CurrentDirectory();
 
 bool FileExists(std::string_view path);
+bool FolderExists(std::string_view path);
 // Creates a folder; failures (one that exists already included) are not reported.
 void CreateFolder(std::string_view path);
 

@@ -3,6 +3,7 @@
 #include "core/text.h"
 #include "menuwindow/look/program_relative.h"
 
+#include <algorithm>
 #include <array>
 
 namespace MenuWindow {
@@ -124,6 +125,26 @@ std::optional<std::string> SymbolPictureFor(FolderListing listing, const MenuLoo
     if (!UsesSymbolPictures(look, symbol))
         return std::nullopt;
     return FindSymbolPicture(listing, symbol, UsesInactiveLook(look, Part::Button, inactiveWindow), selected);
+}
+
+std::vector<std::string> PicturesInUse(FolderListing listing, const MenuLook& look) {
+    std::vector<std::string> files;
+    auto add = [&files](std::optional<std::string> file) {
+        if (file && std::ranges::find(files, *file) == files.end())
+            files.push_back(std::move(*file));
+    };
+    constexpr std::array kSymbols = {SymbolPicture::SubMenuArrow, SymbolPicture::HorizontalSubMenuArrow,
+                                     SymbolPicture::ScrollUp,     SymbolPicture::ScrollDown,
+                                     SymbolPicture::ScrollLeft,   SymbolPicture::ScrollRight,
+                                     SymbolPicture::CommandKey};
+    for (bool inactive : {false, true}) {
+        for (Part part : {Part::Title, Part::Button, Part::SelectionBar})
+            add(PartPicture(listing, look, part, inactive));
+        for (SymbolPicture symbol : kSymbols)
+            for (bool selected : {false, true})
+                add(SymbolPictureFor(listing, look, symbol, inactive, selected));
+    }
+    return files;
 }
 
 } // namespace MenuWindow

@@ -11,6 +11,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace MenuWindow {
 
@@ -72,5 +73,9 @@ std::optional<std::string> FindSymbolPicture(FolderListing listing, SymbolPictur
 // the buttons.
 std::optional<std::string> SymbolPictureFor(FolderListing listing, const MenuLook& look, SymbolPicture symbol,
                                             bool inactiveWindow, bool selected);
+
+// Every file the look draws from the listing: the parts' backgrounds and the symbols, in
+// both window states and under and off the selection bar; each name once.
+std::vector<std::string> PicturesInUse(FolderListing listing, const MenuLook& look);
 
 } // namespace MenuWindow

@@ -74,6 +74,10 @@ std::wstring ThemePictures::PathOf(const std::string& file) const {
     return Win::Widen(folder_) + L"\\" + Win::Widen(file);
 }
 
+bool ThemePictures::Loads(const std::string& file) {
+    return PictureFormatOf(file) == PictureFormat::Ico ? Icon(file, 16) != nullptr : Bitmap(file) != nullptr;
+}
+
 HBITMAP ThemePictures::Bitmap(const std::string& file) {
     auto known = bitmaps_.find(file);
     if (known != bitmaps_.end())

@@ -23,6 +23,9 @@ public:
     void List(const std::string& folder);
     const std::vector<std::string>& Names() const { return names_; }
 
+    // Whether a listed file loads as the picture its extension says (an icon at 16 pixels).
+    bool Loads(const std::string& file);
+
     // Draws the picture as the operation asks onto dc.
     void Draw(HDC dc, const PictureOp& op);
 

@@ -1,5 +1,9 @@
 #include "prefs/win/preference_page.h"
 
+#include "core/win/system_values.h"
+#include "menuwindow/look/pictures.h"
+#include "menuwindow/win/menu_fonts.h"
+#include "menuwindow/win/theme_pictures.h"
 #include "prefs/control_values.h"
 #include "prefs/win/common_dialogs.h"
 #include "win/text_convert.h"
@@ -38,6 +42,18 @@ std::wstring FontText(const SettingsRec& settings, const SettingDef& key) {
     return text;
 }
 
+// What is wrong with the pictures the working copy would draw from its folder.
+std::string PictureFolderNoteOf(const SettingsRec& settings, const std::string& programFolder) {
+    const std::string folder = MenuWindow::PictureFolderPath(settings.BitmapsFolder, programFolder);
+    MenuWindow::ThemePictures pictures;
+    pictures.List(folder);
+    std::vector<std::string> notPictures;
+    for (const std::string& file : MenuWindow::PicturesInUse(pictures.Names(), settings))
+        if (!pictures.Loads(file))
+            notPictures.push_back(file);
+    return PictureFolderNote(settings.BitmapsFolder, SystemValues::FolderExists(folder), notPictures);
+}
+
 void FillList(HWND list, std::initializer_list<const wchar_t*> texts) {
     for (const wchar_t* text : texts)
         ::SendMessageW(list, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
@@ -45,8 +61,10 @@ void FillList(HWND list, std::initializer_list<const wchar_t*> texts) {
 
 } // namespace
 
-PreferencePage::PreferencePage(PrefPage page, SettingsRec& working, const DialogFont& font, Changed changed)
-    : page_(page), working_(working), font_(font), changed_(std::move(changed)) {}
+PreferencePage::PreferencePage(PrefPage page, SettingsRec& working, const DialogFont& font, std::string programFolder,
+                               Changed changed)
+    : page_(page), working_(working), font_(font), programFolder_(std::move(programFolder)),
+      changed_(std::move(changed)) {}
 
 bool PreferencePage::Create(HWND parent, std::span<const GroupRoom> rooms) {
     HINSTANCE instance = ::GetModuleHandleW(nullptr);
@@ -128,10 +146,12 @@ void PreferencePage::MakeRow(Row& row, int id) {
         break;
     case ControlKind::Font:
         row.control = MakeControl(WC_BUTTONW, L"", BS_PUSHBUTTON | WS_TABSTOP, placed.control, first);
+        row.note = MakeControl(WC_STATICW, L"", SS_LEFT | SS_ENDELLIPSIS, placed.note);
         break;
     case ControlKind::Folder:
         row.control = MakeControl(WC_EDITW, L"", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP, placed.control, first);
         row.second = MakeControl(WC_BUTTONW, L"Browse...", BS_PUSHBUTTON | WS_TABSTOP, placed.second, second);
+        row.note = MakeControl(WC_STATICW, L"", SS_LEFT | SS_ENDELLIPSIS, placed.note);
         break;
     case ControlKind::HotKey:
         row.control = MakeControl(HOTKEY_CLASSW, L"", WS_BORDER | WS_TABSTOP, placed.control, first);
@@ -176,9 +196,11 @@ void PreferencePage::ShowRow(Row& row) {
         break;
     case ControlKind::Font:
         ::SetWindowTextW(row.control, FontText(working_, key).c_str());
+        SetNote(row, FontNote(MenuWindow::FontFaceExists(TextOf(working_, key))));
         break;
     case ControlKind::Folder:
         ::SetWindowTextW(row.control, Win::Widen(TextOf(working_, key)).c_str());
+        SetNote(row, PictureFolderNoteOf(working_, programFolder_));
         break;
     case ControlKind::HotKey: {
         HotKeyInput hotKey = HotKeyOf(working_, key);
@@ -193,6 +215,10 @@ void PreferencePage::ShowRow(Row& row) {
 }
 
 void PreferencePage::Report() {
+    // The pictures folder's note also follows the switches that choose the pictures.
+    for (Row& row : rows_)
+        if (row.placed->key->control.kind == ControlKind::Folder)
+            SetNote(row, PictureFolderNoteOf(working_, programFolder_));
     if (changed_)
         changed_();
 }

@@ -15,6 +15,7 @@
 #include <functional>
 #include <map>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -27,7 +28,9 @@ public:
     // Reports a change the user made to the working copy.
     using Changed = std::function<void()>;
 
-    PreferencePage(PrefPage page, SettingsRec& working, const DialogFont& font, Changed changed);
+    // programFolder: where a relative pictures folder is taken from.
+    PreferencePage(PrefPage page, SettingsRec& working, const DialogFont& font, std::string programFolder,
+                   Changed changed);
     PreferencePage(const PreferencePage&) = delete;
     PreferencePage& operator=(const PreferencePage&) = delete;
 
@@ -80,6 +83,7 @@ private:
     PrefPage page_;
     SettingsRec& working_;
     const DialogFont& font_;
+    std::string programFolder_;
     Changed changed_;
     Preferences::PageLayout layout_;
     std::vector<Row> rows_;

@@ -70,11 +70,12 @@ bool PreferencesWindow::Create() {
                             kPageListId);
     heading_ = MakeControl(WC_STATICW, L"", SS_LEFT, 0);
     previewLabel_ = MakeControl(WC_STATICW, L"Preview", SS_LEFT, 0);
-    helpButton_ = MakeControl(WC_BUTTONW, L"&Help", BS_PUSHBUTTON | WS_TABSTOP, kHelpId);
-    rightButtons_ = {MakeControl(WC_BUTTONW, L"&Revert", BS_PUSHBUTTON | WS_TABSTOP, kRevertId),
-                     MakeControl(WC_BUTTONW, L"OK", BS_DEFPUSHBUTTON | WS_TABSTOP, IDOK),
-                     MakeControl(WC_BUTTONW, L"Cancel", BS_PUSHBUTTON | WS_TABSTOP, IDCANCEL),
-                     MakeControl(WC_BUTTONW, L"&Apply", BS_PUSHBUTTON | WS_TABSTOP, kApplyId)};
+    auto button = [this](std::size_t which, DWORD style, int id) {
+        return MakeControl(WC_BUTTONW, Win::Widen(kWindowButtons[which]).c_str(), style | WS_TABSTOP, id);
+    };
+    helpButton_ = button(0, BS_PUSHBUTTON, kHelpId);
+    rightButtons_ = {button(1, BS_PUSHBUTTON, kRevertId), button(2, BS_DEFPUSHBUTTON, IDOK),
+                     button(3, BS_PUSHBUTTON, IDCANCEL), button(4, BS_PUSHBUTTON, kApplyId)};
     SetFontOfChildren(window_.get(), font_.get());
     ::SendMessageW(heading_, WM_SETFONT, reinterpret_cast<WPARAM>(font_.bold()), FALSE);
     for (const PageDef& page : Pages())
@@ -95,16 +96,25 @@ HWND PreferencesWindow::MakeControl(const wchar_t* className, const wchar_t* tex
 
 void PreferencesWindow::CreatePages() {
     for (const PageDef& def : Pages()) {
-        auto page = std::make_unique<PreferencePage>(def.page, working_, font_, [this] { Working_Changed(); });
+        auto page = std::make_unique<PreferencePage>(def.page, working_, font_, program_.values.ProgramFolder,
+                                                     [this] { Working_Changed(); });
         std::vector<GroupRoom> rooms;
         if (def.page == PrefPage::SoundAnimation)
             rooms.push_back({"Sounds", SoundEvents::kRoomHeight});
+        if (def.page == PrefPage::Global)
+            rooms.push_back({"Start-up", StartupHotspots::kRoomHeight});
         if (!page->Create(window_.get(), rooms))
             continue;
         if (def.page == PrefPage::SoundAnimation) {
             soundEvents_ = std::make_unique<SoundEvents>(page->hwnd(), page->Room("Sounds"), font_, working_,
                                                          program_.values.ProgramFolder, [this] { Working_Changed(); });
             page->roomCommands = [this](int id, int code) { return soundEvents_->Command(id, code); };
+            SetFontOfChildren(page->hwnd(), font_.get());
+        }
+        if (def.page == PrefPage::Global) {
+            startupHotspots_ = std::make_unique<StartupHotspots>(page->hwnd(), page->Room("Start-up"), font_,
+                                                                 working_, [this] { Working_Changed(); });
+            page->roomCommands = [this](int id, int code) { return startupHotspots_->Command(id, code); };
             SetFontOfChildren(page->hwnd(), font_.get());
         }
         if (def.page == PrefPage::About)
@@ -230,6 +240,8 @@ void PreferencesWindow::cmdRevert_Click() {
         page->Refresh();
     if (soundEvents_)
         soundEvents_->Refresh();
+    if (startupHotspots_)
+        startupHotspots_->Refresh();
     if (!(before == program_.settings))
         host_.SettingsApplied(before);
     Working_Changed();
@@ -242,6 +254,18 @@ void PreferencesWindow::cmdHelp_Click() {
 void PreferencesWindow::Close() {
     window_.reset();
     host_.PreferencesClosed(); // this object may be gone afterwards
+}
+
+// The dialog keys ask for the next control this way (Tab, Shift+Tab, a label's mnemonic),
+// and only a dialog box's own window procedure would answer: the window does as one does.
+void PreferencesWindow::Form_NextDlgCtl(WPARAM which, LPARAM direct) {
+    HWND target = LOWORD(direct) ? reinterpret_cast<HWND>(which)
+                                 : ::GetNextDlgTabItem(window_.get(), ::GetFocus(), which != 0);
+    if (!target)
+        return;
+    ::SetFocus(target);
+    if (::SendMessageW(target, WM_GETDLGCODE, 0, 0) & DLGC_HASSETSEL)
+        ::SendMessageW(target, EM_SETSEL, 0, -1);
 }
 
 LRESULT PreferencesWindow::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -265,6 +289,9 @@ LRESULT PreferencesWindow::HandleMessage(HWND hwnd, UINT message, WPARAM wParam,
         return 0;
     case WM_CLOSE:
         cmdCancel_Click();
+        return 0;
+    case WM_NEXTDLGCTL:
+        Form_NextDlgCtl(wParam, lParam);
         return 0;
     case WM_GETMINMAXINFO: {
         auto* info = reinterpret_cast<MINMAXINFO*>(lParam);

@@ -10,6 +10,7 @@
 #include "prefs/win/preference_page.h"
 #include "prefs/win/preview_menu.h"
 #include "prefs/win/sound_events.h"
+#include "prefs/win/startup_hotspots.h"
 #include "win/form_window.h"
 #include "win/handles.h"
 
@@ -57,6 +58,7 @@ private:
     HWND MakeControl(const wchar_t* className, const wchar_t* text, DWORD style, int id);
     void CreatePages();
     void Form_Size();
+    void Form_NextDlgCtl(WPARAM which, LPARAM direct);
     void ShowPage(int index);
     void Working_Changed();
     void UpdatePreview();
@@ -74,6 +76,7 @@ private:
     SettingsRec working_;
     std::vector<std::unique_ptr<PreferencePage>> pages_;
     std::unique_ptr<SoundEvents> soundEvents_;
+    std::unique_ptr<StartupHotspots> startupHotspots_;
     PreviewMenu preview_;
     POINT previewTopLeft_{}; // in client pixels
     int current_ = -1;

@@ -18,6 +18,7 @@ namespace PrefsWin {
 
 namespace {
 
+// The buttons in the order of kSoundButtons.
 enum ControlId { kListId = SoundEvents::kFirstId, kBrowseId, kPlayId, kRemoveId, kClearAllId };
 
 constexpr int kButtonWidth = 50;
@@ -54,15 +55,12 @@ SoundEvents::SoundEvents(HWND panel, RECT room, const DialogFont& font, Settings
     ListView_SetItemState(list_, 0, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
 
     int left = room.left;
-    auto button = [&](const wchar_t* text, int id) {
-        MakeChild(panel, WC_BUTTONW, text, BS_PUSHBUTTON | WS_TABSTOP,
-             {left, buttonsTop, left + font.X(kButtonWidth), buttonsTop + buttonHeight}, id);
+    for (int id = kBrowseId; id <= kClearAllId; ++id) {
+        const std::wstring text = Win::Widen(Preferences::kSoundButtons[static_cast<std::size_t>(id - kBrowseId)]);
+        MakeChild(panel, WC_BUTTONW, text.c_str(), BS_PUSHBUTTON | WS_TABSTOP,
+                  {left, buttonsTop, left + font.X(kButtonWidth), buttonsTop + buttonHeight}, id);
         left += font.X(kButtonWidth + kGap);
-    };
-    button(L"&Browse...", kBrowseId);
-    button(L"&Play", kPlayId);
-    button(L"Re&move", kRemoveId);
-    button(L"&Clear All", kClearAllId);
+    }
     note_ = MakeChild(panel, WC_STATICW, L"", SS_LEFT,
                  {left, buttonsTop + font.Y(3), room.right, buttonsTop + buttonHeight}, kFirstId + 9);
     Refresh();

@@ -2,8 +2,10 @@
 
 #include "harness/dialogs.h"
 #include "harness/input.h"
+#include "win/text_convert.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace E2e {
 
@@ -71,6 +73,23 @@ std::optional<WindowInfo> ControlBesideLabel(HWND preferences, std::string_view 
             nearest = control;
     }
     return nearest;
+}
+
+std::string ControlText(HWND control) {
+    wchar_t text[512]{};
+    DWORD_PTR copied = 0;
+    if (!::SendMessageTimeoutW(control, WM_GETTEXT, std::size(text), reinterpret_cast<LPARAM>(text), SMTO_ABORTIFHUNG,
+                               5000, &copied))
+        return {};
+    return Win::Narrow(std::wstring(text, copied));
+}
+
+HWND FocusedControl(HWND preferences) {
+    GUITHREADINFO info{};
+    info.cbSize = sizeof info;
+    if (!::GetGUIThreadInfo(::GetWindowThreadProcessId(preferences, nullptr), &info))
+        return nullptr;
+    return info.hwndFocus;
 }
 
 std::optional<WindowInfo> PreviewWindow(HWND preferences) {

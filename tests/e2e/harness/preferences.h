@@ -30,6 +30,12 @@ bool ShowPreferencePage(HWND preferences, std::string_view title);
 // row (the first such control from the label on).
 std::optional<WindowInfo> ControlBesideLabel(HWND preferences, std::string_view label, const std::string& className);
 
+// A control's text as the control itself holds it (an edit field's typed text included).
+std::string ControlText(HWND control);
+
+// The control that has the keyboard focus in the window's thread.
+HWND FocusedControl(HWND preferences);
+
 // The sample menu window the preferences paint their preview in.
 std::optional<WindowInfo> PreviewWindow(HWND preferences);
 

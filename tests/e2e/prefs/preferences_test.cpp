@@ -1,6 +1,7 @@
 // The preferences window as a user meets it: opened from the tray and by the general hot
 // key, a change of colour shown at once in its preview, Apply writing the file and
-// repainting an open menu, Cancel leaving the file alone, and every page on the screen.
+// repainting an open menu, Cancel leaving the file alone, the keyboard alone, bad input
+// answered beside its control, and every page on the screen.
 #include "core/settings_catalogue.h"
 #include "harness/dialogs.h"
 #include "harness/failure_screenshots.h"
@@ -12,8 +13,11 @@
 #include "harness/screen.h"
 #include "harness/tarvex.h"
 #include "prefs/preference_pages.h"
+#include "win/text_convert.h"
 
 #include <gtest/gtest.h>
+
+#include <cctype>
 
 namespace {
 
@@ -41,7 +45,7 @@ protected:
         spot.hotKey = VK_F5;
         spot.left = 80;
         spot.top = 80;
-        std::string settings = HotspotSettings({spot}, "GenShowInTray=True\nMyOwnKey=kept\n");
+        std::string settings = HotspotSettings({spot}, "GenShowInTray=True\nMyOwnKey=kept\n" + extraSettings);
         folder.WriteSettings(settings + "\r\n[Other]\r\nKeep=this\r\n");
         folder.WriteMenus(MenuFileText({{"Main", NotepadItems({"Text Editor", "Calculator"})}}));
         ASSERT_TRUE(tarvex.Start(folder));
@@ -74,8 +78,31 @@ protected:
         return ::testing::AssertionSuccess();
     }
 
+    // Types a text over the whole of the focused field.
+    static void TypeOver(std::string_view text) {
+        PressKey(VK_END);
+        TapKeys(VK_SHIFT, VK_HOME, 60ms);
+        for (char c : text)
+            PressKey(static_cast<WORD>(std::toupper(static_cast<unsigned char>(c))));
+    }
+
+    bool ShowsText(HWND window, std::string_view text) {
+        return WaitUntil([&] { return VisibleControl(window, "Static", text).has_value(); }, 10s);
+    }
+
+    std::string extraSettings;
     ProgramFolder folder;
     Tarvex tarvex;
+};
+
+// A title font that is not installed and a pictures folder whose title picture is no picture.
+class PreferencesWithBadInput : public Preferences {
+protected:
+    PreferencesWithBadInput() {
+        extraSettings = "TitleFont=No Such Face\nTitleBitmap=True\nBitmapsFolder=Broken\n";
+        ::CreateDirectoryW(Win::Widen(folder.File("Broken")).c_str(), nullptr);
+        folder.WriteBytes("Broken\\TitleA.bmp", "this is text, not a picture");
+    }
 };
 
 } // namespace
@@ -116,6 +143,9 @@ TEST_F(Preferences, ATitleColourShowsInThePreviewAtOnceAndApplyWritesItAndRepain
     EXPECT_EQ(folder.ReadBytes("Helmora.ini"), before) << "nothing is saved before Apply";
     EXPECT_EQ(RedInTitle(menu->hwnd), 0) << "the open menu changed before Apply";
 
+    ASSERT_TRUE(ShowPreferencePage(window, "Global")); // the hotspot opens at start-up too
+    std::optional<WindowInfo> atStart = VisibleControl(window, "Button", "Default (Main)");
+    ASSERT_TRUE(atStart && ClickWindow(atStart->hwnd));
     std::optional<WindowInfo> apply = VisibleControl(window, "Button", "&Apply");
     ASSERT_TRUE(apply && ClickWindow(apply->hwnd));
     EXPECT_TRUE(WaitUntil([&] { return RedInTitle(menu->hwnd) > 100; }, 10s)) << "the open menu kept its colour";
@@ -124,9 +154,12 @@ TEST_F(Preferences, ATitleColourShowsInThePreviewAtOnceAndApplyWritesItAndRepain
     EXPECT_EQ(folder.ReadSetting("ButtonVSize"), std::to_string(kPlainButtonHeight));
     EXPECT_EQ(folder.ReadValue("Other", "Keep"), "this");
     EXPECT_EQ(folder.ReadSetting("HotSpot0Hotkey"), std::to_string(VK_F5));
+    EXPECT_EQ(folder.ReadSetting("GenStartupHotspot0"), "0");
+    EXPECT_EQ(folder.ReadSetting("GenStartupHotspot1"), "-1");
 
     // A change, then Cancel: the question, and the file as it was.
     const std::string applied = folder.ReadBytes("Helmora.ini");
+    ASSERT_TRUE(ShowPreferencePage(window, "Titlebar"));
     std::optional<WindowInfo> flat = VisibleControl(window, "Button", FindSetting("TitleFlat")->control.label);
     ASSERT_TRUE(flat && ClickWindow(flat->hwnd));
     EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
@@ -146,4 +179,64 @@ TEST_F(Preferences, EveryPageFitsItsWindow) {
         SaveNamedScreenshot("preferences-" + name);
     }
     EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
+}
+
+TEST_F(Preferences, TheKeyboardAloneSetsANumberAndEscapeAsksBeforeItDiscards) {
+    HWND window = Open();
+    ASSERT_TRUE(window);
+    ASSERT_TRUE(WaitUntil([&] { return ::GetForegroundWindow() == window; }, 10s));
+    std::optional<WindowInfo> field;
+    auto reachMostEntries = [&] {
+        for (int page = 0; page < 3; ++page) // the page list has the focus: Titlebar, Bitmap, Menu Button, Menu
+            PressKey(VK_DOWN);
+        EXPECT_TRUE(ShowsText(window, "Menu Preferences"));
+        TapKeys(VK_MENU, 'N', 60ms); // "Most e&ntries:"
+        field = ControlBesideLabel(window, LabelOf("MenuMaxNoItems"), "Edit");
+        return field && WaitUntil([&] { return FocusedControl(window) == field->hwnd; }, 10s);
+    };
+    ASSERT_TRUE(reachMostEntries());
+    TypeOver("1"); // the range is 2 to 9999
+    EXPECT_TRUE(ShowsText(window, "Allowed: 2 to 9999"));
+    PressKey(VK_TAB);
+    EXPECT_TRUE(ShowsText(window, "Corrected (2 to 9999)"));
+    EXPECT_EQ(ControlText(field->hwnd), "2");
+    EXPECT_NE(folder.ReadSetting("MenuMaxNoItems"), "2") << "saved before OK";
+    PressKey(VK_RETURN); // OK
+    ASSERT_TRUE(WaitForWindowGone(window, 10s));
+    EXPECT_EQ(folder.ReadSetting("MenuMaxNoItems"), "2");
+
+    window = Open();
+    ASSERT_TRUE(window);
+    ASSERT_TRUE(WaitUntil([&] { return ::GetForegroundWindow() == window; }, 10s));
+    ASSERT_TRUE(reachMostEntries());
+    TypeOver("50");
+    PressKey(VK_ESCAPE);
+    std::optional<WindowInfo> question = WaitForMessageBox(tarvex.processId());
+    ASSERT_TRUE(question) << "Escape after a change asks first";
+    ASSERT_TRUE(PressButton(question->hwnd, "No"));
+    ASSERT_TRUE(WaitForWindowGone(question->hwnd, 10s));
+    EXPECT_TRUE(::IsWindowVisible(window));
+    PressKey(VK_ESCAPE);
+    question = WaitForMessageBox(tarvex.processId());
+    ASSERT_TRUE(question && PressButton(question->hwnd, "Yes"));
+    EXPECT_TRUE(WaitForWindowGone(window, 10s));
+    EXPECT_EQ(folder.ReadSetting("MenuMaxNoItems"), "2");
+}
+
+TEST_F(PreferencesWithBadInput, AMissingFontAndAFileThatIsNoPictureAreNamedBesideTheirControls) {
+    HWND window = Open();
+    ASSERT_TRUE(window);
+    EXPECT_TRUE(ShowsText(window, "Not installed: Arial is used"));
+    ASSERT_TRUE(ShowPreferencePage(window, "Bitmap"));
+    EXPECT_TRUE(ShowsText(window, "Not a picture: TitleA.bmp"));
+    std::optional<WindowInfo> folderField = ControlBesideLabel(window, LabelOf("BitmapsFolder"), "Edit");
+    ASSERT_TRUE(folderField && ClickWindow(folderField->hwnd));
+    TypeOver("Gone");
+    EXPECT_TRUE(ShowsText(window, "Folder not found: no pictures are drawn"));
+    SaveNamedScreenshot("preferences-bad-input");
+    std::optional<WindowInfo> preview = PreviewWindow(window);
+    ASSERT_TRUE(preview);
+    EXPECT_TRUE(WaitForSteadyImage(preview->hwnd));
+    EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
+    EXPECT_EQ(folder.ReadSetting("BitmapsFolder"), "Broken");
 }

@@ -2,6 +2,7 @@
 // compile time, because it needs the pages' groups or looks across rows.
 #include "core/settings_catalogue.h"
 #include "prefs/preference_pages.h"
+#include "prefs/sound_page.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +10,7 @@
 #include <cctype>
 #include <map>
 #include <set>
+#include <span>
 #include <string>
 #include <tuple>
 #include <utility>
@@ -71,9 +73,18 @@ TEST(SettingsControls, EveryControlStandsInAGroupOfItsPageAndNoGroupStaysEmpty) 
 }
 
 // A mnemonic is one '&' before a letter or digit, used once on its page: a second use would
-// make Alt+letter stop at the first control only. Labels in one group must differ to be told apart.
+// make Alt+letter stop at the first control only; the window's buttons (and the sound page's
+// own) are on every page. Labels in one group must differ to be told apart.
 TEST(SettingsControls, LabelsAreDistinctAndMnemonicsUniquePerPage) {
     std::map<std::pair<PrefPage, char>, std::string_view> mnemonics;
+    auto reserve = [&](PrefPage page, std::span<const std::string_view> buttons) {
+        for (std::string_view button : buttons)
+            if (std::size_t amp = button.find('&'); amp != std::string_view::npos)
+                mnemonics.emplace(std::pair{page, static_cast<char>(std::tolower(button[amp + 1]))}, button);
+    };
+    for (const Preferences::PageDef& page : Preferences::Pages())
+        reserve(page.page, Preferences::kWindowButtons);
+    reserve(PrefPage::SoundAnimation, Preferences::kSoundButtons);
     std::set<std::tuple<PrefPage, std::string_view, std::string>> labels;
     for (const SettingDef& def : SettingsCatalogue()) {
         if (!Shown(def))

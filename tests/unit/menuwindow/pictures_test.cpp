@@ -172,3 +172,11 @@ TEST(TitleButtonPictures, ExtensionOrderAndInactiveFirst) {
     EXPECT_EQ(FindTitleButtonPicture(listing, TitleButton::OnTop, false, true), "OnTopAP.bmp");
     EXPECT_EQ(FindTitleButtonPicture(listing, TitleButton::OnTop, false, false), std::nullopt);
 }
+
+TEST(SymbolPictures, PicturesInUseNameEachFileTheLookDrawsOnce) {
+    MenuLook look = PictureSymbols();
+    look.TitleBitmap = true;
+    Listing listing = {"readme.txt", "TitleA.bmp", "ButtonA.bmp", "ArrowA.ico", "ArrowAS.ico"};
+    EXPECT_EQ(PicturesInUse(listing, look), (Listing{"TitleA.bmp", "ArrowA.ico", "ArrowAS.ico"}));
+    EXPECT_EQ(PicturesInUse(listing, MenuLook{}), Listing{});
+}

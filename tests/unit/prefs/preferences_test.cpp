@@ -8,6 +8,7 @@
 #include "prefs/preference_pages.h"
 #include "prefs/preference_writes.h"
 #include "prefs/sample_menu.h"
+#include "prefs/startup_hotspots.h"
 
 #include <gtest/gtest.h>
 
@@ -67,6 +68,26 @@ TEST(PreferenceInput, ControlsWriteTheValuesTheFileExpects) {
     EXPECT_FALSE(SplitCorner(0).bottom || SplitCorner(0).right);
 }
 
+TEST(PreferenceInput, NotesSayWhatWillBeDrawnInsteadOfBadInput) {
+    const std::vector<std::string> none;
+    const std::vector<std::string> one = {"TitleA.bmp"};
+    const std::vector<std::string> two = {"TitleA.bmp", "ArrowA.ico"};
+    struct Case {
+        std::string_view folder;
+        bool found;
+        const std::vector<std::string>& bad;
+        std::string note;
+    } cases[] = {{"", false, none, ""},
+                 {"Themes\\Gone", false, one, "Folder not found: no pictures are drawn"},
+                 {"Themes\\Blue", true, none, ""},
+                 {"Themes\\Blue", true, one, "Not a picture: TitleA.bmp"},
+                 {"Themes\\Blue", true, two, "Not pictures: TitleA.bmp, ArrowA.ico"}};
+    for (const Case& c : cases)
+        EXPECT_EQ(PictureFolderNote(c.folder, c.found, c.bad), c.note) << c.folder;
+    EXPECT_EQ(FontNote(true), "");
+    EXPECT_EQ(FontNote(false), "Not installed: Arial is used");
+}
+
 TEST(PreferenceInput, TheHotKeyTakesCtrlOrShiftAndNothingElse) {
     SettingsRec settings;
     const SettingDef& hotKey = Key("GenHotKey");
@@ -82,6 +103,24 @@ TEST(PreferenceInput, TheHotKeyTakesCtrlOrShiftAndNothingElse) {
     EXPECT_TRUE(HotKeyOf(settings, hotKey).shift);
     EXPECT_FALSE(SetHotKey(settings, hotKey, {0x42, false, true, false}));
     EXPECT_FALSE(settings.GenShiftHotKey);
+}
+
+TEST(PreferenceInput, StartupHotspotsKeepTheirOrderAndDropStaleEntries) {
+    SettingsRec settings;
+    settings.HotSpots.resize(4); // Default and Hotspots 1 to 3
+    settings.HotSpots[2].Menuname = "Programs";
+    settings.HotSpots[2].Menupath1 = "Main";
+    settings.HotSpots[3].Menupath1 = "C:\\Tools";
+    settings.GenStartupHotspot = {3, 9, -1, 3, 0, -1, -1, -1, -1, -1}; // 9 is gone; 3 twice
+    SetOpensAtStart(settings, 2, true);
+    EXPECT_EQ(settings.GenStartupHotspot, (std::array<std::int16_t, 10>{3, 0, 2, -1, -1, -1, -1, -1, -1, -1}));
+    SetOpensAtStart(settings, 3, false);
+    EXPECT_EQ(settings.GenStartupHotspot, (std::array<std::int16_t, 10>{0, 2, -1, -1, -1, -1, -1, -1, -1, -1}));
+    EXPECT_TRUE(OpensAtStart(settings, 0));
+    EXPECT_FALSE(OpensAtStart(settings, 3));
+    EXPECT_EQ(StartupHotspotLabel(settings, 0), "Default");
+    EXPECT_EQ(StartupHotspotLabel(settings, 2), "Hotspot 2 (Programs)");
+    EXPECT_EQ(StartupHotspotLabel(settings, 3), "Hotspot 3 (C:\\Tools)");
 }
 
 TEST(PreferencePages, EveryPageLaysOutItsRowsApartAndWithinItsWidth) {
