@@ -1,9 +1,11 @@
 #!/usr/bin/env bash
 # Runs one Windows program under Wine the way the tests need it:
-#   wine-run.sh [--prefix DIR] PROGRAM.exe [ARGS...]
-#   wine-run.sh [--prefix DIR] --init        (only make the prefix)
+#   wine-run.sh [--prefix DIR] [--dpi N] PROGRAM.exe [ARGS...]
+#   wine-run.sh [--prefix DIR] [--dpi N] --init        (only make the prefix)
 # The prefix is private to the build (created once, then reused) and shows a
 # 1024x768 virtual desktop, so that input sent by one process is seen by another.
+# --dpi makes a prefix whose screen has that many dots per inch (96 otherwise), with
+# the desktop grown to match; give such a prefix a folder of its own.
 # Xvfb is started when there is no display. Runs are serialised on the prefix, and
 # the prefix's wineserver is stopped after each run.
 set -uo pipefail
@@ -15,6 +17,11 @@ TOOLS_DIR=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 prefix=${TARVEX_WINEPREFIX:-$PWD/wineprefix}
 if [ "${1:-}" = "--prefix" ]; then
     prefix=$2
+    shift 2
+fi
+dpi=96
+if [ "${1:-}" = "--dpi" ]; then
+    dpi=$2
     shift 2
 fi
 mkdir -p "$prefix"
@@ -32,7 +39,11 @@ make_prefix() {
     [ -f "$WINEPREFIX/.tarvex-ready" ] && return 0
     wineboot --init >/dev/null 2>&1
     wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null 2>&1
-    wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d 1024x768 /f >/dev/null 2>&1
+    wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$((1024 * dpi / 96))x$((768 * dpi / 96))" /f \
+        >/dev/null 2>&1
+    if [ "$dpi" != 96 ]; then
+        wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f >/dev/null 2>&1
+    fi
     wineserver -w
     touch "$WINEPREFIX/.tarvex-ready"
 }

@@ -1,5 +1,6 @@
 # Sourced by the scripts that need an X display. ensure_display starts Xvfb on a
 # free display when DISPLAY is not set, and stops it when the calling shell exits.
+# The screen holds the largest Wine desktop the tests use (1536x1152, at 144 DPI).
 ensure_display() {
     if [ -n "${DISPLAY:-}" ]; then
         return
@@ -8,7 +9,7 @@ ensure_display() {
     while [ -e "/tmp/.X$n-lock" ] || [ -e "/tmp/.X11-unix/X$n" ]; do
         n=$((n + 1))
     done
-    Xvfb ":$n" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
+    Xvfb ":$n" -screen 0 1600x1200x24 -nolisten tcp >/dev/null 2>&1 &
     TARVEX_XVFB_PID=$!
     trap 'kill "$TARVEX_XVFB_PID" 2>/dev/null || true' EXIT
     for _ in $(seq 100); do

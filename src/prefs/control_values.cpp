@@ -95,8 +95,10 @@ NumberInput ReadNumberInput(std::string_view text, const PrefControl& control, s
     return input;
 }
 
-std::string FontNote(bool installed) {
-    return installed ? std::string() : "Not installed: Arial is used";
+std::string FontNote(bool installed, bool arialInstalled) {
+    if (installed)
+        return {};
+    return arialInstalled ? "Not installed: Arial is used" : "Not installed: a similar font is used";
 }
 
 std::string PictureFolderNote(std::string_view bitmapsFolder, bool folderFound,

@@ -56,8 +56,9 @@ struct FontKeys {
 };
 FontKeys FontKeysOf(const SettingDef& fontKey);
 
-// The word under a font button: the menus draw a face that is not installed in Arial.
-std::string FontNote(bool installed);
+// The word under a font button: the menus draw a face that is not installed in Arial,
+// and when Arial is missing too, the system picks a face like it.
+std::string FontNote(bool installed, bool arialInstalled);
 
 // The word under the pictures folder: a folder that is not there, else the files the
 // look draws from it that did not load as pictures (they are drawn without).

@@ -196,7 +196,8 @@ void PreferencePage::ShowRow(Row& row) {
         break;
     case ControlKind::Font:
         ::SetWindowTextW(row.control, FontText(working_, key).c_str());
-        SetNote(row, FontNote(MenuWindow::FontFaceExists(TextOf(working_, key))));
+        SetNote(row, FontNote(MenuWindow::FontFaceExists(TextOf(working_, key)),
+                              MenuWindow::FontFaceExists(MenuWindow::kFallbackFace)));
         break;
     case ControlKind::Folder:
         ::SetWindowTextW(row.control, Win::Widen(TextOf(working_, key)).c_str());

@@ -84,8 +84,9 @@ TEST(PreferenceInput, NotesSayWhatWillBeDrawnInsteadOfBadInput) {
                  {"Themes\\Blue", true, two, "Not pictures: TitleA.bmp, ArrowA.ico"}};
     for (const Case& c : cases)
         EXPECT_EQ(PictureFolderNote(c.folder, c.found, c.bad), c.note) << c.folder;
-    EXPECT_EQ(FontNote(true), "");
-    EXPECT_EQ(FontNote(false), "Not installed: Arial is used");
+    EXPECT_EQ(FontNote(true, false), "");
+    EXPECT_EQ(FontNote(false, true), "Not installed: Arial is used");
+    EXPECT_EQ(FontNote(false, false), "Not installed: a similar font is used");
 }
 
 TEST(PreferenceInput, TheHotKeyTakesCtrlOrShiftAndNothingElse) {
