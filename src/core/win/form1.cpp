@@ -202,6 +202,7 @@ void Form1::SettingsApplied(const SettingsRec& before) {
     if (now.GenHideDesktopIcons != before.GenHideDesktopIcons)
         DesktopWindows::SetDesktopIcons(
             now.GenHideDesktopIcons ? CommandActions::Visibility::Hide : CommandActions::Visibility::Show, program_);
+    taskbarReplacement_.SettingsApplied();
     Autostart::WriteAutostartValue(now.GenAutoRun, program_.values.ProgramFolder);
 }
 

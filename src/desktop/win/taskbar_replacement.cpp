@@ -11,6 +11,13 @@ void TaskbarReplacement::SetTaskList(Visibility visibility) {
         taskList_.Hide();
 }
 
+void TaskbarReplacement::SettingsApplied() {
+    if (taskList_.Visible())
+        taskList_.Show();
+    if (systray_.Visible())
+        systray_.Show();
+}
+
 void TaskbarReplacement::SetSystray(Visibility visibility) {
     if (CommandActions::ShowWindowFor(visibility, systray_.Visible()))
         systray_.Show();

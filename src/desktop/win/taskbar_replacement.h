@@ -18,6 +18,9 @@ public:
     // taskbar back as it was, the two hidden.
     void SetTaskManagement(CommandActions::Visibility visibility);
 
+    // New settings: the windows that are shown take their look and place again.
+    void SettingsApplied();
+
     // Start-up with TaskbarRunOnStartup: the taskbar hidden, the systray copy shown.
     void ReplaceTaskbar();
 

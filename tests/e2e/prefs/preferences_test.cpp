@@ -95,6 +95,12 @@ protected:
     Tarvex tarvex;
 };
 
+// The systray copy shown from the start.
+class PreferencesWithSystray : public Preferences {
+protected:
+    PreferencesWithSystray() { extraSettings = "TaskbarRunOnStartup=True\n"; }
+};
+
 // A title font that is not installed and a pictures folder whose title picture is no picture.
 class PreferencesWithBadInput : public Preferences {
 protected:
@@ -255,4 +261,27 @@ TEST_F(PreferencesWithBadInput, AMissingFontAndAFileThatIsNoPictureAreNamedBesid
     EXPECT_TRUE(WaitForSteadyImage(preview->hwnd));
     EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
     EXPECT_EQ(folder.ReadSetting("BitmapsFolder"), "Broken");
+}
+
+TEST_F(PreferencesWithSystray, ApplyMovesTheShownSystrayCopyByItsNewOffset) {
+    std::optional<WindowInfo> systray = WaitForVisibleWindow("Tarvex2Systray", tarvex.processId(), 10s);
+    ASSERT_TRUE(systray);
+    HWND window = Open();
+    ASSERT_TRUE(window);
+    ASSERT_TRUE(ShowPreferencePage(window, "Tasklist and Systray"));
+    TapKeys(VK_MENU, 'Z', 60ms); // the systray's "Hr&z.Offset", scrolled into view
+    std::optional<WindowInfo> offset = ControlBesideLabel(window, LabelOf("SystrayXofset"), "Edit");
+    ASSERT_TRUE(offset && WaitUntil([&] { return FocusedControl(window) == offset->hwnd; }, 10s));
+    TypeOver("100");
+    TapKeys(VK_MENU, 'A', 60ms); // Apply
+    EXPECT_TRUE(WaitUntil([&] { return folder.ReadSetting("SystrayXofset") == "100"; }, 10s));
+    EXPECT_TRUE(WaitUntil(
+        [&] {
+            RECT now{};
+            ::GetWindowRect(systray->hwnd, &now);
+            return std::abs(now.left - systray->rect.left) == 100;
+        },
+        10s))
+        << "the systray copy stayed where it was";
+    EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
 }
