@@ -27,7 +27,18 @@ using SettingField = std::variant<bool SettingsRec::*, std::int16_t SettingsRec:
                                   std::vector<HotspotRec> SettingsRec::*>;
 
 // The pages of the preferences window, in the order of its page list.
-enum class PrefPage : std::uint8_t { Titlebar, Bitmap, MenuButton, Menu, SoundAnimation, TasklistSystray, Global, About };
+enum class PrefPage : std::uint8_t {
+    Titlebar,
+    Bitmap,
+    MenuButton,
+    Menu,
+    SoundAnimation,
+    TasklistSystray,
+    Hotspots,
+    MenuEditor,
+    Global,
+    About
+};
 
 // The control a key gets on its page.
 enum class ControlKind : std::uint8_t {

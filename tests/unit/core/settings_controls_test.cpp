@@ -28,7 +28,9 @@ const std::set<std::string_view> kWithoutControl = {
     "HorzAutoRotate", "GenShowTooltips", "GenRightClick", "GenMiddleClick", "GenDblClick", "BrowserIconType"};
 
 // Groups that the page fills itself rather than with catalogue keys.
-const std::set<std::pair<PrefPage, std::string_view>> kGroupsOfTheirOwn = {{PrefPage::SoundAnimation, "Sounds"}};
+const std::set<std::pair<PrefPage, std::string_view>> kGroupsOfTheirOwn = {{PrefPage::SoundAnimation, "Sounds"},
+                                                                         {PrefPage::Hotspots, "Hotspots"},
+                                                                         {PrefPage::MenuEditor, "Menus"}};
 
 bool Shown(const SettingDef& def) {
     return def.control.kind != ControlKind::None;
