@@ -103,6 +103,8 @@ void PreferencesWindow::CreatePages() {
             rooms.push_back({"Sounds", SoundEvents::kRoomHeight});
         if (def.page == PrefPage::Global)
             rooms.push_back({"Start-up", StartupHotspots::kRoomHeight});
+        if (def.page == PrefPage::Hotspots)
+            rooms.push_back({"Hotspots", HotspotsPage::kRoomHeight});
         if (!page->Create(window_.get(), rooms))
             continue;
         if (def.page == PrefPage::SoundAnimation) {
@@ -115,6 +117,16 @@ void PreferencesWindow::CreatePages() {
             startupHotspots_ = std::make_unique<StartupHotspots>(page->hwnd(), page->Room("Start-up"), font_,
                                                                  working_, [this] { Working_Changed(); });
             page->roomCommands = [this](int id, int code) { return startupHotspots_->Command(id, code); };
+            SetFontOfChildren(page->hwnd(), font_.get());
+        }
+        if (def.page == PrefPage::Hotspots) {
+            std::vector<std::string> menuNames;
+            for (std::size_t menu = 1; menu < program_.menus.menus.size(); ++menu)
+                menuNames.push_back(program_.menus.menus[menu].NAME);
+            hotspotsPage_ = std::make_unique<HotspotsPage>(page->hwnd(), page->Room("Hotspots"), font_, working_,
+                                                           std::move(menuNames), program_.commandTable,
+                                                           [this] { Working_Changed(); });
+            page->roomCommands = [this](int id, int code) { return hotspotsPage_->Command(id, code); };
             SetFontOfChildren(page->hwnd(), font_.get());
         }
         if (def.page == PrefPage::About)
@@ -242,6 +254,8 @@ void PreferencesWindow::cmdRevert_Click() {
         soundEvents_->Refresh();
     if (startupHotspots_)
         startupHotspots_->Refresh();
+    if (hotspotsPage_)
+        hotspotsPage_->Refresh();
     if (!(before == program_.settings))
         host_.SettingsApplied(before);
     Working_Changed();

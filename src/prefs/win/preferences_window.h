@@ -7,6 +7,7 @@
 #include "core/settings.h"
 #include "core/win/program.h"
 #include "prefs/win/dialog_font.h"
+#include "prefs/win/hotspots_page.h"
 #include "prefs/win/preference_page.h"
 #include "prefs/win/preview_menu.h"
 #include "prefs/win/sound_events.h"
@@ -77,6 +78,7 @@ private:
     std::vector<std::unique_ptr<PreferencePage>> pages_;
     std::unique_ptr<SoundEvents> soundEvents_;
     std::unique_ptr<StartupHotspots> startupHotspots_;
+    std::unique_ptr<HotspotsPage> hotspotsPage_;
     PreviewMenu preview_;
     POINT previewTopLeft_{}; // in client pixels
     int current_ = -1;

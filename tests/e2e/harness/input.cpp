@@ -74,7 +74,7 @@ bool QuickClicks(int x, int y) {
 // Once the button is down the program's move loop holds the cursor against moves from
 // another process, as a popup menu does, but still sees each move's point: so only the
 // press waits for the cursor to stay.
-bool Drag(int fromX, int fromY, int toX, int toY) {
+bool Drag(int fromX, int fromY, int toX, int toY, const std::function<void()>& beforeRelease) {
     if (!MoveMouse(fromX, fromY))
         return false;
     SendMouse(fromX, fromY, MOUSEEVENTF_LEFTDOWN);
@@ -85,6 +85,8 @@ bool Drag(int fromX, int fromY, int toX, int toY) {
         Settle(30ms);
     }
     Settle(100ms);
+    if (beforeRelease)
+        beforeRelease();
     SendMouse(toX, toY, MOUSEEVENTF_LEFTUP);
     return true;
 }

@@ -6,6 +6,8 @@
 
 #include <windows.h>
 
+#include <functional>
+
 namespace E2e {
 
 enum class Button { Left, Right, Middle };
@@ -20,8 +22,9 @@ void ClickDuringCapture(int x, int y);
 // Two clicks at a point in quick succession, well within a double-click time.
 bool QuickClicks(int x, int y);
 // Presses the left button at one point, moves to another in steps and lets go there;
-// false when the cursor would not stay at the first point.
-bool Drag(int fromX, int fromY, int toX, int toY);
+// false when the cursor would not stay at the first point. beforeRelease runs while the
+// button is still down at the end (a screenshot of what the drag shows).
+bool Drag(int fromX, int fromY, int toX, int toY, const std::function<void()>& beforeRelease = {});
 // Clicks the middle of a window.
 bool ClickWindow(HWND hwnd);
 // Presses and releases one key.

@@ -1,0 +1,392 @@
+#include "prefs/win/hotspots_page.h"
+
+#include "desktop/hotspots.h"
+#include "prefs/startup_hotspots.h"
+#include "prefs/win/common_dialogs.h"
+#include "prefs/win/form3.h"
+#include "win/text_convert.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+
+using Preferences::HotspotField;
+
+namespace PrefsWin {
+
+namespace {
+
+enum ControlId {
+    kListId = HotspotsPage::kFirstId,
+    kAddId,
+    kDeleteId,
+    kBrowseId,
+    kSelectAreaId,
+    kFirstRowId = HotspotsPage::kFirstId + 10
+};
+
+enum class Kind { Choice, Target, Text, Check, HotKey };
+
+struct RowDef {
+    HotspotField field;
+    const wchar_t* label; // a check box's text
+    Kind kind;
+};
+
+// Mnemonics are unique on the page, the window's Help, Revert and Apply included.
+constexpr RowDef kRows[] = {
+    {HotspotField::Action, L"A&ction:", Kind::Choice},
+    {HotspotField::Target, L"", Kind::Target}, // labelled by the action
+    {HotspotField::Arguments, L"Ar&guments:", Kind::Text},
+    {HotspotField::StartFolder, L"Start &folder:", Kind::Text},
+    {HotspotField::FileTypes, L"File t&ypes:", Kind::Text},
+    {HotspotField::Caption, L"Menu capt&ion:", Kind::Text},
+    {HotspotField::MouseEvent, L"Mouse &event:", Kind::Choice},
+    {HotspotField::Application, L"A&pplication:", Kind::Text},
+    {HotspotField::X1, L"Left (x1):", Kind::Text},
+    {HotspotField::Y1, L"Top (y1):", Kind::Text},
+    {HotspotField::X2, L"Right (x2):", Kind::Text},
+    {HotspotField::Y2, L"Bottom (y2):", Kind::Text},
+    {HotspotField::OnMouse, L"Open the menu at the c&ursor", Kind::Check},
+    {HotspotField::MenuLeft, L"Menu left:", Kind::Text},
+    {HotspotField::MenuTop, L"Menu top:", Kind::Text},
+    {HotspotField::UseHotKey, L"Use a hot &key", Kind::Check},
+    {HotspotField::HotKey, L"Hot key:", Kind::HotKey},
+    {HotspotField::Group, L"Gr&oup:", Kind::Text},
+    {HotspotField::AlwaysOpen, L"Menu stays open (al&ways open)", Kind::Check},
+    {HotspotField::Horizontal, L"Hori&zontal menu", Kind::Check},
+    {HotspotField::ForceOnTop, L"Menu always on &top", Kind::Check},
+    {HotspotField::Theme, L"The&me file:", Kind::Text},
+    {HotspotField::Sound, L"Sou&nd file:", Kind::Text},
+};
+
+constexpr int kListHeight = 56;
+constexpr int kButtonWidth = 50;
+constexpr int kRowHeight = 14;
+constexpr int kLabelShare = 40; // per cent of the room's width
+constexpr int kGap = 4;
+
+std::wstring TextOf(HWND control) {
+    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(control)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(::GetWindowTextW(control, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+void AddChoice(HWND combo, std::string_view text) {
+    ::SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Win::Widen(text).c_str()));
+}
+
+} // namespace
+
+HotspotsPage::HotspotsPage(HWND panel, RECT room, const DialogFont& font, SettingsRec& working,
+                           std::vector<std::string> menuNames, std::vector<CommandTable::CommandRow> commands,
+                           std::function<void()> changed)
+    : panel_(panel), working_(working), menuNames_(std::move(menuNames)), commands_(std::move(commands)),
+      changed_(std::move(changed)) {
+    const int width = room.right - room.left;
+    const int listRight = room.left + width / 2;
+    list_ = MakeChild(panel, WC_LISTBOXW, L"", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_BORDER | WS_TABSTOP,
+                      {room.left, room.top, listRight, room.top + font.Y(kListHeight)}, kListId);
+    const int buttonLeft = listRight + font.X(kGap);
+    auto button = [&](const wchar_t* text, int id, int top) {
+        return MakeChild(panel, WC_BUTTONW, text, BS_PUSHBUTTON | WS_TABSTOP,
+                         {buttonLeft, top, buttonLeft + font.X(kButtonWidth), top + font.Y(14)}, id);
+    };
+    button(L"A&dd", kAddId, room.top);
+    button(L"De&lete", kDeleteId, room.top + font.Y(18));
+    note_ = MakeChild(panel, WC_STATICW, L"", SS_LEFT | SS_ENDELLIPSIS,
+                      {room.left, room.top + font.Y(kListHeight + 2), room.right,
+                       room.top + font.Y(kListHeight + 11)},
+                      kFirstId + 9);
+
+    const int fieldLeft = room.left + width * kLabelShare / 100;
+    int top = room.top + font.Y(kListHeight + 14);
+    int id = kFirstRowId;
+    for (const RowDef& def : kRows) {
+        Row row{def.field};
+        const int bottom = top + font.Y(kRowHeight - 2);
+        switch (def.kind) {
+        case Kind::Check:
+            row.control = MakeChild(panel, WC_BUTTONW, def.label, BS_AUTOCHECKBOX | WS_TABSTOP,
+                                    {room.left, top, room.right, bottom}, id);
+            break;
+        case Kind::Choice: {
+            row.label = MakeChild(panel, WC_STATICW, def.label, SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
+            row.control = MakeChild(panel, WC_COMBOBOXW, L"", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP,
+                                    {fieldLeft, top, room.right, top + font.Y(120)}, id);
+            if (def.field == HotspotField::Action)
+                for (std::string_view name : Preferences::kActionNames)
+                    AddChoice(row.control, name);
+            else
+                for (std::string_view name : Preferences::kMouseEventNames)
+                    AddChoice(row.control, name);
+            break;
+        }
+        case Kind::Target: {
+            const int browseLeft = room.right - font.X(kButtonWidth);
+            row.label = MakeChild(panel, WC_STATICW, L"", SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
+            row.control = MakeChild(panel, WC_COMBOBOXW, L"", CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL | WS_TABSTOP,
+                                    {fieldLeft, top, browseLeft - font.X(kGap), top + font.Y(120)}, id);
+            browse_ = MakeChild(panel, WC_BUTTONW, L"&Browse...", BS_PUSHBUTTON | WS_TABSTOP,
+                                {browseLeft, top, room.right, bottom}, kBrowseId);
+            break;
+        }
+        case Kind::HotKey:
+            row.label = MakeChild(panel, WC_STATICW, def.label, SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
+            row.control = MakeChild(panel, HOTKEY_CLASSW, L"", WS_BORDER | WS_TABSTOP, {fieldLeft, top, room.right, bottom}, id);
+            ::SendMessageW(row.control, HKM_SETRULES,
+                           HKCOMB_NONE | HKCOMB_A | HKCOMB_CA | HKCOMB_SA | HKCOMB_SC | HKCOMB_SCA, HOTKEYF_CONTROL);
+            break;
+        case Kind::Text:
+            row.label = MakeChild(panel, WC_STATICW, def.label, SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
+            row.control = MakeChild(panel, WC_EDITW, L"", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP,
+                                    {fieldLeft, top, room.right, bottom}, id);
+            break;
+        }
+        rows_.push_back(row);
+        top += font.Y(kRowHeight);
+        ++id;
+        if (def.field == HotspotField::Y2) { // the area can be dragged instead of typed
+            selectArea_ = MakeChild(panel, WC_BUTTONW, L"&Select Area...", BS_PUSHBUTTON | WS_TABSTOP,
+                                    {fieldLeft, top, fieldLeft + font.X(70), top + font.Y(kRowHeight - 2)}, kSelectAreaId);
+            top += font.Y(kRowHeight);
+        }
+    }
+    Refresh();
+}
+
+HotspotRec& HotspotsPage::Selected() {
+    selected_ = std::clamp(selected_, 0, working_.NoOfHotSpots());
+    return working_.HotSpots[static_cast<std::size_t>(selected_)];
+}
+
+void HotspotsPage::Refresh() {
+    FillList();
+    ShowHotspot();
+}
+
+void HotspotsPage::FillList() {
+    ::SendMessageW(list_, LB_RESETCONTENT, 0, 0);
+    for (int index = 0; index <= working_.NoOfHotSpots(); ++index)
+        ::SendMessageW(list_, LB_ADDSTRING, 0,
+                       reinterpret_cast<LPARAM>(Win::Widen(Preferences::HotspotListName(index)).c_str()));
+}
+
+void HotspotsPage::FillTargetChoices() {
+    HWND target = nullptr;
+    for (const Row& row : rows_)
+        if (row.field == HotspotField::Target)
+            target = row.control;
+    ::SendMessageW(target, CB_RESETCONTENT, 0, 0);
+    const HotspotRec& hotspot = Selected();
+    if (hotspot.Type == Hotspots::kShowMenu)
+        for (const std::string& name : menuNames_)
+            AddChoice(target, name);
+    if (hotspot.Type == Hotspots::kRunCommand)
+        for (const CommandTable::CommandRow& command : commands_)
+            AddChoice(target, command.label + " (" + command.command + ")");
+}
+
+void HotspotsPage::ShowHotspot() {
+    showing_ = true;
+    const HotspotRec& hotspot = Selected();
+    ::SendMessageW(list_, LB_SETCURSEL, static_cast<WPARAM>(selected_), 0);
+    FillTargetChoices();
+    for (Row& row : rows_) {
+        const bool enabled =
+            Preferences::FieldApplies(hotspot, row.field) && Preferences::FieldEnabled(hotspot, row.field);
+        switch (row.field) {
+        case HotspotField::Action:
+            ::SendMessageW(row.control, CB_SETCURSEL, hotspot.Type, 0);
+            break;
+        case HotspotField::MouseEvent:
+            ::SendMessageW(row.control, CB_SETCURSEL, static_cast<WPARAM>(hotspot.MouseButton), 0);
+            break;
+        case HotspotField::HotKey: {
+            const WORD modifier = hotspot.ShiftHotKey ? HOTKEYF_SHIFT : HOTKEYF_CONTROL;
+            ::SendMessageW(row.control, HKM_SETHOTKEY, MAKEWORD(hotspot.Hotkey, modifier), 0);
+            break;
+        }
+        case HotspotField::OnMouse:
+        case HotspotField::UseHotKey:
+        case HotspotField::AlwaysOpen:
+        case HotspotField::Horizontal:
+        case HotspotField::ForceOnTop:
+            ::SendMessageW(row.control, BM_SETCHECK,
+                           Preferences::IsChecked(hotspot, row.field) ? BST_CHECKED : BST_UNCHECKED, 0);
+            break;
+        default:
+            ::SetWindowTextW(row.control, Win::Widen(Preferences::FieldText(hotspot, row.field)).c_str());
+            break;
+        }
+        if (row.field == HotspotField::Target)
+            ::SetWindowTextW(row.label, (Win::Widen(Preferences::TargetLabel(hotspot.Type)) + L":").c_str());
+        ::EnableWindow(row.control, enabled);
+        if (row.label)
+            ::EnableWindow(row.label, enabled);
+    }
+    const bool browses = hotspot.Type == Hotspots::kShowFolder || hotspot.Type == Hotspots::kRunProgram;
+    ::EnableWindow(browse_, browses);
+    ::EnableWindow(selectArea_, Preferences::FieldEnabled(hotspot, HotspotField::X1));
+    SetNote(Preferences::HotKeyClash(working_, selected_).value_or(""));
+    showing_ = false;
+}
+
+bool HotspotsPage::Command(int id, int code) {
+    switch (id) {
+    case kListId:
+        if (code == LBN_SELCHANGE) {
+            selected_ = static_cast<int>(::SendMessageW(list_, LB_GETCURSEL, 0, 0));
+            ShowHotspot();
+        }
+        return true;
+    case kAddId:
+        if (code == BN_CLICKED)
+            cmdAdd_Click();
+        return true;
+    case kDeleteId:
+        if (code == BN_CLICKED)
+            cmdDelete_Click();
+        return true;
+    case kBrowseId:
+        if (code == BN_CLICKED)
+            cmdBrowse_Click();
+        return true;
+    case kSelectAreaId:
+        if (code == BN_CLICKED)
+            cmdSelectArea_Click();
+        return true;
+    default:
+        break;
+    }
+    const int row = id - kFirstRowId;
+    if (row < 0 || row >= static_cast<int>(rows_.size()))
+        return false;
+    if (!showing_)
+        Field_Changed(rows_[static_cast<std::size_t>(row)], code);
+    return true;
+}
+
+void HotspotsPage::Field_Changed(Row& row, int code) {
+    HotspotRec& hotspot = Selected();
+    switch (row.field) {
+    case HotspotField::Action:
+    case HotspotField::MouseEvent: {
+        if (code != CBN_SELCHANGE)
+            return;
+        const auto index = static_cast<int>(::SendMessageW(row.control, CB_GETCURSEL, 0, 0));
+        if (row.field == HotspotField::Action)
+            hotspot.Type = static_cast<std::uint8_t>(index);
+        else
+            hotspot.MouseButton = static_cast<std::int16_t>(index);
+        ShowHotspot();
+        break;
+    }
+    case HotspotField::Target: {
+        if (code == CBN_SELCHANGE) {
+            const auto index = static_cast<std::size_t>(::SendMessageW(row.control, CB_GETCURSEL, 0, 0));
+            std::string chosen = hotspot.Type == Hotspots::kRunCommand && index < commands_.size()
+                                     ? commands_[index].command
+                                     : (index < menuNames_.size() ? menuNames_[index] : std::string());
+            Preferences::SetFieldText(hotspot, row.field, chosen);
+        } else if (code == CBN_EDITCHANGE) {
+            Preferences::SetFieldText(hotspot, row.field, Win::Narrow(TextOf(row.control)));
+        } else {
+            return;
+        }
+        break;
+    }
+    case HotspotField::HotKey: {
+        if (code != EN_CHANGE)
+            return;
+        auto value = static_cast<WORD>(::SendMessageW(row.control, HKM_GETHOTKEY, 0, 0));
+        const BYTE modifiers = HIBYTE(value);
+        if (auto refused = Preferences::SetHotKey(hotspot, LOBYTE(value), modifiers & HOTKEYF_SHIFT,
+                                                  modifiers & HOTKEYF_CONTROL, modifiers & HOTKEYF_ALT)) {
+            SetNote(*refused);
+            return;
+        }
+        SetNote(Preferences::HotKeyClash(working_, selected_).value_or(""));
+        break;
+    }
+    case HotspotField::OnMouse:
+    case HotspotField::UseHotKey:
+    case HotspotField::AlwaysOpen:
+    case HotspotField::Horizontal:
+    case HotspotField::ForceOnTop:
+        if (code != BN_CLICKED)
+            return;
+        Preferences::SetChecked(hotspot, row.field, ::SendMessageW(row.control, BM_GETCHECK, 0, 0) == BST_CHECKED);
+        ShowHotspot();
+        break;
+    default: {
+        if (code != EN_CHANGE)
+            return;
+        auto refused = Preferences::SetFieldText(hotspot, row.field, Win::Narrow(TextOf(row.control)));
+        SetNote(refused.value_or(""));
+        if (refused)
+            return;
+        break;
+    }
+    }
+    Changed();
+}
+
+void HotspotsPage::cmdAdd_Click() {
+    const std::string firstMenu = menuNames_.empty() ? std::string() : menuNames_.front();
+    if (auto refused = Preferences::AddHotspot(working_, ::GetSystemMetrics(SM_CXSCREEN),
+                                               ::GetSystemMetrics(SM_CYSCREEN), firstMenu)) {
+        SetNote(*refused);
+        return;
+    }
+    selected_ = working_.NoOfHotSpots();
+    Refresh();
+    Changed();
+}
+
+void HotspotsPage::cmdDelete_Click() {
+    if (!Preferences::DeleteHotspot(working_, selected_)) {
+        SetNote("The Default hotspot stays: change it instead");
+        return;
+    }
+    --selected_;
+    Refresh();
+    Changed();
+}
+
+void HotspotsPage::cmdBrowse_Click() {
+    HotspotRec& hotspot = Selected();
+    HWND owner = ::GetAncestor(panel_, GA_ROOT);
+    std::optional<std::string> picked = hotspot.Type == Hotspots::kShowFolder
+                                            ? PickFolder(owner, hotspot.Menupath1)
+                                            : PickFile(owner, hotspot.Menupath1, L"Programs", L"*.exe;*.lnk;*.*");
+    if (!picked)
+        return;
+    Preferences::SetFieldText(hotspot, HotspotField::Target, *picked);
+    ShowHotspot();
+    Changed();
+}
+
+void HotspotsPage::cmdSelectArea_Click() {
+    std::optional<RECT> area = Form3::PickArea(::GetAncestor(panel_, GA_ROOT));
+    if (!area)
+        return;
+    HotspotRec& hotspot = Selected();
+    Preferences::SetFieldText(hotspot, HotspotField::X1, std::to_string(area->left));
+    Preferences::SetFieldText(hotspot, HotspotField::Y1, std::to_string(area->top));
+    Preferences::SetFieldText(hotspot, HotspotField::X2, std::to_string(area->right));
+    Preferences::SetFieldText(hotspot, HotspotField::Y2, std::to_string(area->bottom));
+    ShowHotspot();
+    Changed();
+}
+
+void HotspotsPage::SetNote(const std::string& note) {
+    ::SetWindowTextW(note_, Win::Widen(note).c_str());
+}
+
+void HotspotsPage::Changed() {
+    if (changed_)
+        changed_();
+}
+
+} // namespace PrefsWin

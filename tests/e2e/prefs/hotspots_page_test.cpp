@@ -1,0 +1,83 @@
+// The hotspots page as a user defines a hotspot on it: Add, a right click as its event,
+// the menu at the cursor, the area dragged on the frozen screen, OK; then a right click
+// in that area opens the menu there.
+#include "harness/dialogs.h"
+#include "harness/failure_screenshots.h"
+#include "harness/input.h"
+#include "harness/menu_files.h"
+#include "harness/menu_window.h"
+#include "harness/preferences.h"
+#include "harness/program_folder.h"
+#include "harness/tarvex.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace E2e;
+
+class HotspotsPage : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(folder.ready());
+        TestHotspot desktop; // the default: a left click anywhere
+        desktop.target = "Main";
+        folder.WriteSettings(HotspotSettings({desktop}, "GenShowInTray=True\n"));
+        folder.WriteMenus(MenuFileText({{"Main", NotepadItems({"Text Editor", "Calculator"})}}));
+        ASSERT_TRUE(tarvex.Start(folder));
+        ASSERT_TRUE(tarvex.WaitUntilReady());
+    }
+
+    ProgramFolder folder;
+    Tarvex tarvex;
+};
+
+} // namespace
+
+TEST_F(HotspotsPage, AHotspotDefinedWithADraggedAreaOpensItsMenuAtTheCursor) {
+    tarvex.SendTrayMessage(WM_LBUTTONDBLCLK);
+    std::optional<WindowInfo> preferences = WaitForPreferences(tarvex.processId());
+    ASSERT_TRUE(preferences);
+    HWND window = preferences->hwnd;
+    ASSERT_TRUE(ShowPreferencePage(window, "Hotspots"));
+    std::optional<WindowInfo> add = VisibleControl(window, "Button", "A&dd");
+    ASSERT_TRUE(add && ClickWindow(add->hwnd));
+    std::optional<WindowInfo> page = VisibleControl(window, "Tarvex2PreferencePage", "");
+    ASSERT_TRUE(page);
+    std::optional<WindowInfo> list = VisibleControl(page->hwnd, "ListBox", "");
+    ASSERT_TRUE(list);
+    ASSERT_TRUE(WaitUntil([&] { return ::SendMessageW(list->hwnd, LB_GETCURSEL, 0, 0) == 1; }, 10s)) << "Hotspot 1";
+
+    TapKeys(VK_MENU, 'E', 60ms); // "Mouse &event:", from a left click down to a right click
+    PressKey(VK_DOWN);
+    PressKey(VK_DOWN);
+    std::optional<WindowInfo> event = ControlBesideLabel(window, "Mouse &event:", "ComboBox");
+    ASSERT_TRUE(event);
+    EXPECT_TRUE(WaitUntil([&] { return ControlText(event->hwnd) == "Right click"; }, 10s));
+    TapKeys(VK_MENU, 'U', 60ms); // "Open the menu at the c&ursor"
+    std::optional<WindowInfo> menuLeft = ControlBesideLabel(window, "Menu left:", "Edit");
+    ASSERT_TRUE(menuLeft);
+    EXPECT_TRUE(WaitUntil([&] { return !::IsWindowEnabled(menuLeft->hwnd); }, 10s)) << "the place is the cursor's";
+
+    TapKeys(VK_MENU, 'S', 60ms); // "&Select Area..."
+    std::optional<WindowInfo> picker = WaitForVisibleWindow("Tarvex2AreaPicker", tarvex.processId(), 10s);
+    ASSERT_TRUE(picker) << "the frozen screen";
+    ASSERT_TRUE(Drag(300, 300, 500, 450, [] { SaveNamedScreenshot("hotspots-area-picker"); }));
+    ASSERT_TRUE(WaitForWindowGone(picker->hwnd, 10s));
+    std::optional<WindowInfo> x2 = ControlBesideLabel(window, "Right (x2):", "Edit");
+    ASSERT_TRUE(x2);
+    EXPECT_TRUE(WaitUntil([&] { return ControlText(x2->hwnd) == "500"; }, 10s));
+    SaveNamedScreenshot("hotspots-page");
+
+    PressKey(VK_RETURN); // OK
+    ASSERT_TRUE(WaitForWindowGone(window, 10s));
+    EXPECT_EQ(folder.ReadSetting("NoOfHotSpots"), "1");
+    EXPECT_EQ(folder.ReadSetting("HotSpot1MouseButton"), "2");
+    EXPECT_EQ(folder.ReadSetting("HotSpot1y2"), "450");
+
+    ASSERT_TRUE(Click(420, 380, Button::Right));
+    std::optional<WindowInfo> menu = WaitForMenuWindow(tarvex.processId());
+    ASSERT_TRUE(menu) << "a right click in the area opens the menu";
+    EXPECT_NEAR(menu->rect.left, 420, 2);
+    EXPECT_NEAR(menu->rect.top, 380, 2);
+}
