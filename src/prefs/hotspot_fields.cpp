@@ -126,6 +126,11 @@ std::optional<std::string> SetFieldText(HotspotRec& hotspot, HotspotField field,
     return std::nullopt;
 }
 
+bool IsSwitch(HotspotField field) {
+    return field == HotspotField::OnMouse || field == HotspotField::UseHotKey || field == HotspotField::AlwaysOpen ||
+           field == HotspotField::Horizontal || field == HotspotField::ForceOnTop;
+}
+
 bool IsChecked(const HotspotRec& hotspot, HotspotField field) {
     switch (field) {
     case HotspotField::OnMouse: return hotspot.OnMouse;

@@ -64,8 +64,9 @@ std::string FieldText(const HotspotRec& hotspot, HotspotField field);
 // the reason and the field keeps its value.
 std::optional<std::string> SetFieldText(HotspotRec& hotspot, HotspotField field, std::string_view text);
 
-// A switch field (OnMouse, UseHotKey, AlwaysOpen, Horizontal, ForceOnTop); number
-// switches are written -1 and 0, as the file holds them.
+// The switch fields (OnMouse, UseHotKey, AlwaysOpen, Horizontal, ForceOnTop), shown as
+// check boxes; number switches are written -1 and 0, as the file holds them.
+bool IsSwitch(HotspotField field);
 bool IsChecked(const HotspotRec& hotspot, HotspotField field);
 void SetChecked(HotspotRec& hotspot, HotspotField field, bool checked);
 

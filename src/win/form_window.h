@@ -32,6 +32,19 @@ LRESULT CALLBACK FormWindowProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM l
     return form->HandleMessage(hwnd, message, wParam, lParam);
 }
 
+// The class of a form: its window procedure, the instance, the arrow cursor and the
+// name; a caller adds what its windows need more (icon, background, style).
+template <class Form>
+WNDCLASSEXW FormClass(HINSTANCE instance, const wchar_t* className) {
+    WNDCLASSEXW windowClass{};
+    windowClass.cbSize = sizeof windowClass;
+    windowClass.lpfnWndProc = FormWindowProc<Form>;
+    windowClass.hInstance = instance;
+    windowClass.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    windowClass.lpszClassName = className;
+    return windowClass;
+}
+
 // Registers a window class; one that a window of the program registered before counts.
 bool RegisterFormClass(const WNDCLASSEXW& windowClass);
 

@@ -34,14 +34,9 @@ Form1::~Form1() {
 }
 
 bool Form1::Create() {
-    WNDCLASSEXW wc{};
-    wc.cbSize = sizeof wc;
-    wc.lpfnWndProc = Win::FormWindowProc<Form1>;
-    wc.hInstance = program_.instance;
+    WNDCLASSEXW wc = Win::FormClass<Form1>(program_.instance, kClassName);
     wc.hIcon = ProgramIcon(program_, ::GetSystemMetrics(SM_CXICON));
     wc.hIconSm = FormIcon();
-    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-    wc.lpszClassName = kClassName;
     if (!Win::RegisterFormClass(wc))
         return false;
     BuildSystrayMenu();

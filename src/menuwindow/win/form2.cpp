@@ -35,13 +35,8 @@ Form2::~Form2() {
 
 bool Form2::Create() {
     HINSTANCE instance = ::GetModuleHandleW(nullptr);
-    WNDCLASSEXW wc{};
-    wc.cbSize = sizeof wc;
+    WNDCLASSEXW wc = Win::FormClass<Form2>(instance, kClassName);
     wc.style = CS_DROPSHADOW; // the system's soft shadow, where the system draws one
-    wc.lpfnWndProc = Win::FormWindowProc<Form2>;
-    wc.hInstance = instance;
-    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-    wc.lpszClassName = kClassName;
     if (!Win::RegisterFormClass(wc))
         return false;
     // A tool window never gets a taskbar button; the menu has no border or caption of

@@ -101,15 +101,10 @@ public:
 
 private:
     bool Register() {
-        WNDCLASSEXW wc{};
-        wc.cbSize = sizeof wc;
-        wc.lpfnWndProc = Win::FormWindowProc<IntroductionWindow>;
-        wc.hInstance = instance_;
+        WNDCLASSEXW wc = Win::FormClass<IntroductionWindow>(instance_, kClassName);
         wc.hIcon = ProgramIcon(SM_CXICON);
         wc.hIconSm = ProgramIcon(SM_CXSMICON);
-        wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
         wc.hbrBackground = ::GetSysColorBrush(COLOR_WINDOW);
-        wc.lpszClassName = kClassName;
         return Win::RegisterFormClass(wc);
     }
 

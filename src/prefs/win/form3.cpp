@@ -8,12 +8,8 @@ namespace PrefsWin {
 
 std::optional<RECT> Form3::PickArea(HWND owner) {
     HINSTANCE instance = ::GetModuleHandleW(nullptr);
-    WNDCLASSEXW wc{};
-    wc.cbSize = sizeof wc;
-    wc.lpfnWndProc = Win::FormWindowProc<Form3>;
-    wc.hInstance = instance;
+    WNDCLASSEXW wc = Win::FormClass<Form3>(instance, kClassName);
     wc.hCursor = ::LoadCursorW(nullptr, IDC_CROSS);
-    wc.lpszClassName = kClassName;
     if (!Win::RegisterFormClass(wc))
         return std::nullopt;
 

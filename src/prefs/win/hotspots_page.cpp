@@ -207,16 +207,12 @@ void HotspotsPage::ShowHotspot() {
             ::SendMessageW(row.control, HKM_SETHOTKEY, MAKEWORD(hotspot.Hotkey, modifier), 0);
             break;
         }
-        case HotspotField::OnMouse:
-        case HotspotField::UseHotKey:
-        case HotspotField::AlwaysOpen:
-        case HotspotField::Horizontal:
-        case HotspotField::ForceOnTop:
-            ::SendMessageW(row.control, BM_SETCHECK,
-                           Preferences::IsChecked(hotspot, row.field) ? BST_CHECKED : BST_UNCHECKED, 0);
-            break;
         default:
-            ::SetWindowTextW(row.control, Win::Widen(Preferences::FieldText(hotspot, row.field)).c_str());
+            if (Preferences::IsSwitch(row.field))
+                ::SendMessageW(row.control, BM_SETCHECK,
+                               Preferences::IsChecked(hotspot, row.field) ? BST_CHECKED : BST_UNCHECKED, 0);
+            else
+                ::SetWindowTextW(row.control, Win::Widen(Preferences::FieldText(hotspot, row.field)).c_str());
             break;
         }
         if (row.field == HotspotField::Target)
@@ -241,19 +237,18 @@ bool HotspotsPage::Command(int id, int code) {
         }
         return true;
     case kAddId:
-        if (code == BN_CLICKED)
-            cmdAdd_Click();
-        return true;
     case kDeleteId:
-        if (code == BN_CLICKED)
-            cmdDelete_Click();
-        return true;
     case kBrowseId:
-        if (code == BN_CLICKED)
-            cmdBrowse_Click();
-        return true;
     case kSelectAreaId:
-        if (code == BN_CLICKED)
+        if (code != BN_CLICKED)
+            return true;
+        if (id == kAddId)
+            cmdAdd_Click();
+        else if (id == kDeleteId)
+            cmdDelete_Click();
+        else if (id == kBrowseId)
+            cmdBrowse_Click();
+        else
             cmdSelectArea_Click();
         return true;
     default:
@@ -309,17 +304,15 @@ void HotspotsPage::Field_Changed(Row& row, int code) {
         SetNote(Preferences::HotKeyClash(working_, selected_).value_or(""));
         break;
     }
-    case HotspotField::OnMouse:
-    case HotspotField::UseHotKey:
-    case HotspotField::AlwaysOpen:
-    case HotspotField::Horizontal:
-    case HotspotField::ForceOnTop:
-        if (code != BN_CLICKED)
-            return;
-        Preferences::SetChecked(hotspot, row.field, ::SendMessageW(row.control, BM_GETCHECK, 0, 0) == BST_CHECKED);
-        ShowHotspot();
-        break;
     default: {
+        if (Preferences::IsSwitch(row.field)) {
+            if (code != BN_CLICKED)
+                return;
+            Preferences::SetChecked(hotspot, row.field,
+                                    ::SendMessageW(row.control, BM_GETCHECK, 0, 0) == BST_CHECKED);
+            ShowHotspot();
+            break;
+        }
         if (code != EN_CHANGE)
             return;
         auto refused = Preferences::SetFieldText(hotspot, row.field, Win::Narrow(TextOf(row.control)));

@@ -68,13 +68,8 @@ PreferencePage::PreferencePage(PrefPage page, SettingsRec& working, const Dialog
 
 bool PreferencePage::Create(HWND parent, std::span<const GroupRoom> rooms) {
     HINSTANCE instance = ::GetModuleHandleW(nullptr);
-    WNDCLASSEXW wc{};
-    wc.cbSize = sizeof wc;
-    wc.lpfnWndProc = Win::FormWindowProc<PreferencePage>;
-    wc.hInstance = instance;
-    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    WNDCLASSEXW wc = Win::FormClass<PreferencePage>(instance, kClassName);
     wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-    wc.lpszClassName = kClassName;
     if (!Win::RegisterFormClass(wc))
         return false;
     if (!::CreateWindowExW(WS_EX_CONTROLPARENT, kClassName, L"", WS_CHILD | WS_VSCROLL, 0, 0, 0, 0,

@@ -39,13 +39,8 @@ PreferencesWindow::~PreferencesWindow() = default;
 
 bool PreferencesWindow::Create() {
     HINSTANCE instance = program_.instance ? program_.instance : ::GetModuleHandleW(nullptr);
-    WNDCLASSEXW wc{};
-    wc.cbSize = sizeof wc;
-    wc.lpfnWndProc = Win::FormWindowProc<PreferencesWindow>;
-    wc.hInstance = instance;
-    wc.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
+    WNDCLASSEXW wc = Win::FormClass<PreferencesWindow>(instance, kClassName);
     wc.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
-    wc.lpszClassName = kClassName;
     wc.hIcon = Win::LoadProgramIcon(instance, program_.iconResource, ::GetSystemMetrics(SM_CXICON));
     wc.hIconSm = Win::LoadProgramIcon(instance, program_.iconResource, ::GetSystemMetrics(SM_CXSMICON));
     if (!Win::RegisterFormClass(wc))

@@ -80,6 +80,14 @@ bool Tarvex::WaitUntilReady(Duration timeout) {
            ::WaitForInputIdle(process_.get(), static_cast<DWORD>(timeout.count())) == 0;
 }
 
+bool Tarvex::WaitUntilIdle(Duration timeout) {
+    if (!mainForm_ && !WaitForMainForm(timeout))
+        return false;
+    DWORD_PTR result = 0;
+    return ::SendMessageTimeoutW(mainForm_, WM_NULL, 0, 0, SMTO_NORMAL, static_cast<UINT>(timeout.count()),
+                                 &result) != 0;
+}
+
 void Tarvex::SendTrayMessage(UINT mouseMessage) {
     if (!mainForm_)
         WaitForMainForm();

@@ -44,6 +44,11 @@ public:
     // answer from then on.
     bool WaitUntilReady(Duration timeout = 30s);
 
+    // Once the program's thread is back waiting for messages: what it was doing (closing a
+    // window, saving) is over, so the next input is seen. Input the program samples, as
+    // its hotspots do, is lost while the thread is busy.
+    bool WaitUntilIdle(Duration timeout = 10s);
+
     // Posts what the shell posts for a mouse event on the tray icon: the icon's
     // callback message (the mouse-move message) with the icon's id and the event.
     void SendTrayMessage(UINT mouseMessage);

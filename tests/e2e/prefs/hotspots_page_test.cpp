@@ -75,6 +75,7 @@ TEST_F(HotspotsPage, AHotspotDefinedWithADraggedAreaOpensItsMenuAtTheCursor) {
     EXPECT_EQ(folder.ReadSetting("HotSpot1MouseButton"), "2");
     EXPECT_EQ(folder.ReadSetting("HotSpot1y2"), "450");
 
+    ASSERT_TRUE(tarvex.WaitUntilIdle());
     ASSERT_TRUE(Click(420, 380, Button::Right));
     std::optional<WindowInfo> menu = WaitForMenuWindow(tarvex.processId());
     ASSERT_TRUE(menu) << "a right click in the area opens the menu";
