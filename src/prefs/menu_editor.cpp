@@ -40,7 +40,7 @@ void Fill(MenuTable& table, std::int32_t slot, const MenuItemRec& fields) {
 MenuItemRec NewItem() {
     MenuItemRec item;
     item.LABEL = kNewItemLabel;
-    item.HOTKEY = "0";
+    item.HOTKEY.assign(1, '0'); // "0": no hot key
     return item;
 }
 
