@@ -17,6 +17,7 @@ constexpr std::array<std::string_view, 6> kMenuGroups = {"Frame",     "Opening s
 constexpr std::array<std::string_view, 2> kSoundGroups = {"Sounds", "Animation"};
 constexpr std::array<std::string_view, 3> kTaskGroups = {"Task list", "Task list background", "Systray"};
 constexpr std::array<std::string_view, 1> kHotspotGroups = {"Hotspots"};
+constexpr std::array<std::string_view, 1> kMenuEditorGroups = {"Menus"};
 constexpr std::array<std::string_view, 6> kGlobalGroups = {"Start-up", "Hot key", "Tray and desktop", "Mouse",
                                                            "Effects",  "Shutting down"};
 
@@ -28,6 +29,7 @@ constexpr std::array kPages = {
     PageDef{PrefPage::SoundAnimation, "Sound and Animation", "Sound and Animation Preferences", kSoundGroups},
     PageDef{PrefPage::TasklistSystray, "Tasklist and Systray", "Tasklist and Systray Preferences", kTaskGroups},
     PageDef{PrefPage::Hotspots, "Hotspots", "Hotspots Definition", kHotspotGroups},
+    PageDef{PrefPage::MenuEditor, "Menu Editor", "Menu Editor", kMenuEditorGroups},
     PageDef{PrefPage::Global, "Global", "Global Preferences", kGlobalGroups},
     PageDef{PrefPage::About, "About", "About Tarvex", {}},
 };

@@ -433,6 +433,11 @@ RECT PreferencePage::Room(std::string_view group) const {
 }
 
 HBRUSH PreferencePage::Form_CtlColorStatic(HDC dc, HWND control) {
+    if (std::find(roomNotes.begin(), roomNotes.end(), control) != roomNotes.end()) {
+        ::SetTextColor(dc, kNoteColour);
+        ::SetBkMode(dc, TRANSPARENT);
+        return ::GetSysColorBrush(COLOR_BTNFACE);
+    }
     for (Row& row : rows_) {
         if (row.swatch && control == row.control)
             return row.swatch.get();
@@ -450,6 +455,10 @@ LRESULT PreferencePage::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LP
     case WM_COMMAND:
         Control_Command(LOWORD(wParam), HIWORD(wParam), reinterpret_cast<HWND>(lParam));
         return 0;
+    case WM_NOTIFY:
+        if (roomNotify)
+            return roomNotify(*reinterpret_cast<const NMHDR*>(lParam));
+        break;
     case WM_VSCROLL:
         Form_VScroll(LOWORD(wParam));
         return 0;

@@ -50,6 +50,10 @@ public:
 
     // Commands of controls that the page's own part (a group's room) made on the panel.
     std::function<bool(int id, int code)> roomCommands;
+    // Notifications of those controls (a tree view's); the answer is the message's result.
+    std::function<LRESULT(const NMHDR& header)> roomNotify;
+    // Texts of the room that are drawn in the colour of the page's notes.
+    std::vector<HWND> roomNotes;
 
 private:
     friend LRESULT CALLBACK Win::FormWindowProc<PreferencePage>(HWND, UINT, WPARAM, LPARAM);

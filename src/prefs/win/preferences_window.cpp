@@ -100,6 +100,8 @@ void PreferencesWindow::CreatePages() {
             rooms.push_back({"Start-up", StartupHotspots::kRoomHeight});
         if (def.page == PrefPage::Hotspots)
             rooms.push_back({"Hotspots", HotspotsPage::kRoomHeight});
+        if (def.page == PrefPage::MenuEditor)
+            rooms.push_back({"Menus", MenuEditorPage::kRoomHeight});
         if (!page->Create(window_.get(), rooms))
             continue;
         if (def.page == PrefPage::SoundAnimation) {
@@ -124,10 +126,21 @@ void PreferencesWindow::CreatePages() {
             page->roomCommands = [this](int id, int code) { return hotspotsPage_->Command(id, code); };
             SetFontOfChildren(page->hwnd(), font_.get());
         }
+        if (def.page == PrefPage::MenuEditor)
+            MakeMenuEditor(*page);
         if (def.page == PrefPage::About)
             MakeAboutPage(page->hwnd(), font_, program_);
         pages_.push_back(std::move(page));
     }
+}
+
+void PreferencesWindow::MakeMenuEditor(PreferencePage& page) {
+    menuEditor_ = std::make_unique<MenuEditorPage>(page.hwnd(), page.Room("Menus"), font_, program_,
+                                                   [this] { Working_Changed(); });
+    page.roomCommands = [this](int id, int code) { return menuEditor_->Command(id, code); };
+    page.roomNotify = [this](const NMHDR& header) { return menuEditor_->Notify(header); };
+    page.roomNotes = {menuEditor_->note()};
+    SetFontOfChildren(page.hwnd(), font_.get());
 }
 
 // The page list and the buttons keep their size; the page and the preview share what is left.
@@ -183,7 +196,7 @@ void PreferencesWindow::UpdatePreview() {
 }
 
 bool PreferencesWindow::Dirty() const {
-    return !(working_ == program_.settings);
+    return !(working_ == program_.settings) || (menuEditor_ && menuEditor_->Dirty());
 }
 
 void PreferencesWindow::BringForward() {
@@ -212,8 +225,13 @@ bool PreferencesWindow::TranslateDialogMessage(MSG& message) {
 }
 
 bool PreferencesWindow::cmdApply_Click() {
-    if (!Dirty())
+    // The menu file tells the user itself when it could not be written.
+    if (menuEditor_ && !menuEditor_->Apply())
+        return false;
+    if (!Dirty()) {
+        ::EnableWindow(rightButtons_.back(), FALSE);
         return true;
+    }
     SettingsRec before = program_.settings;
     program_.settings = working_;
     ProfileRewrite::Result saved =
@@ -251,6 +269,8 @@ void PreferencesWindow::cmdRevert_Click() {
         startupHotspots_->Refresh();
     if (hotspotsPage_)
         hotspotsPage_->Refresh();
+    if (menuEditor_)
+        menuEditor_->Refresh();
     if (!(before == program_.settings))
         host_.SettingsApplied(before);
     Working_Changed();

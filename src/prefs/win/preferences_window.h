@@ -8,6 +8,7 @@
 #include "core/win/program.h"
 #include "prefs/win/dialog_font.h"
 #include "prefs/win/hotspots_page.h"
+#include "prefs/win/menu_editor_page.h"
 #include "prefs/win/preference_page.h"
 #include "prefs/win/preview_menu.h"
 #include "prefs/win/sound_events.h"
@@ -58,6 +59,7 @@ private:
 
     HWND MakeControl(const wchar_t* className, const wchar_t* text, DWORD style, int id);
     void CreatePages();
+    void MakeMenuEditor(PreferencePage& page);
     void Form_Size();
     void Form_NextDlgCtl(WPARAM which, LPARAM direct);
     void ShowPage(int index);
@@ -79,6 +81,7 @@ private:
     std::unique_ptr<SoundEvents> soundEvents_;
     std::unique_ptr<StartupHotspots> startupHotspots_;
     std::unique_ptr<HotspotsPage> hotspotsPage_;
+    std::unique_ptr<MenuEditorPage> menuEditor_;
     PreviewMenu preview_;
     POINT previewTopLeft_{}; // in client pixels
     int current_ = -1;

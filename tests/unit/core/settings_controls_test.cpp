@@ -1,6 +1,7 @@
 // The preferences controls of the catalogue: what the table cannot check by itself at
 // compile time, because it needs the pages' groups or looks across rows.
 #include "core/settings_catalogue.h"
+#include "prefs/menu_editor.h"
 #include "prefs/preference_pages.h"
 #include "prefs/sound_page.h"
 
@@ -81,12 +82,16 @@ TEST(SettingsControls, LabelsAreDistinctAndMnemonicsUniquePerPage) {
     std::map<std::pair<PrefPage, char>, std::string_view> mnemonics;
     auto reserve = [&](PrefPage page, std::span<const std::string_view> buttons) {
         for (std::string_view button : buttons)
-            if (std::size_t amp = button.find('&'); amp != std::string_view::npos)
-                mnemonics.emplace(std::pair{page, static_cast<char>(std::tolower(button[amp + 1]))}, button);
+            if (std::size_t amp = button.find('&'); amp != std::string_view::npos) {
+                auto [it, fresh] =
+                    mnemonics.emplace(std::pair{page, static_cast<char>(std::tolower(button[amp + 1]))}, button);
+                EXPECT_TRUE(fresh) << button << " and " << it->second << " share a mnemonic";
+            }
     };
     for (const Preferences::PageDef& page : Preferences::Pages())
         reserve(page.page, Preferences::kWindowButtons);
     reserve(PrefPage::SoundAnimation, Preferences::kSoundButtons);
+    reserve(PrefPage::MenuEditor, MenuEditor::kButtons);
     std::set<std::tuple<PrefPage, std::string_view, std::string>> labels;
     for (const SettingDef& def : SettingsCatalogue()) {
         if (!Shown(def))

@@ -1,0 +1,272 @@
+#include "prefs/menu_editor.h"
+
+#include "core/message_box.h"
+#include "core/text.h"
+#include "menus/data_manager.h"
+#include "menus/menu_editing.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace MenuEditor {
+
+namespace {
+
+constexpr const char* kOwnMenu = "An item cannot open the menu it is in.";
+
+bool MenuExists(const MenuTable& table, std::int32_t menu) {
+    return menu >= 0 && menu < table.MenuCount();
+}
+
+std::int32_t ItemCount(const MenuTable& table, std::int32_t menu) {
+    return DataManager::LastItemPosition(table, menu) + 1;
+}
+
+const MenuItemRec* ItemAt(const MenuTable& table, Place place) {
+    const std::int32_t slot = DataManager::FindItem(table, place.menu, place.position);
+    return slot == kNoItem ? nullptr : &table.pool[static_cast<std::size_t>(slot)];
+}
+
+// Gives a slot the item's fields; the links and the owner stay the pool's.
+void Fill(MenuTable& table, std::int32_t slot, const MenuItemRec& fields) {
+    MenuItemRec& item = table.pool[static_cast<std::size_t>(slot)];
+    MenuItemRec kept = fields;
+    kept.owner = item.owner;
+    kept.next = item.next;
+    kept.previous = item.previous;
+    item = std::move(kept);
+}
+
+MenuItemRec NewItem() {
+    MenuItemRec item;
+    item.LABEL = kNewItemLabel;
+    item.HOTKEY.assign(1, '0'); // "0": no hot key
+    return item;
+}
+
+// Puts an item with these fields at position `to` of the menu (at the end when `to` is
+// past the last item).
+Place Place_(MenuTable& table, std::int32_t menu, std::int32_t to, const MenuItemRec& fields) {
+    const std::int32_t count = ItemCount(table, menu);
+    to = std::clamp(to, 0, count);
+    const std::int32_t slot =
+        to == count ? DataManager::AppendItem(table, menu) : DataManager::InsertItem(table, menu, to);
+    Fill(table, slot, fields);
+    return {menu, to};
+}
+
+Outcome Refused(std::string text) {
+    return {{}, std::move(text)};
+}
+
+bool Blank(std::string_view text) {
+    return Text::Trim(text).empty();
+}
+
+} // namespace
+
+std::string MenuText(const MenuTable& table, std::int32_t menu) {
+    if (!MenuExists(table, menu))
+        return {};
+    const std::string& name = table.menus[static_cast<std::size_t>(menu) + 1].NAME;
+    return name.empty() ? "(no name)" : name;
+}
+
+std::string ItemText(const MenuItemRec& item) {
+    std::string text = item.LABEL.empty() ? "(no label)" : item.LABEL;
+    if (item.TYPE == kItemMenuName)
+        text += "  \xE2\x86\x92 " + item.PATH; // an arrow: the menu it opens
+    return text;
+}
+
+std::int32_t MenuOpenedBy(const MenuTable& table, const MenuItemRec& item) {
+    if (item.TYPE != kItemMenuName)
+        return -1;
+    return DataManager::MenuNumberByName(table, item.PATH) - 1;
+}
+
+bool SameMenus(const MenuTable& a, const MenuTable& b) {
+    if (a.menus != b.menus)
+        return false;
+    for (std::int32_t menu = 0; menu < a.MenuCount(); ++menu) {
+        const std::int32_t count = ItemCount(a, menu);
+        if (count != ItemCount(b, menu))
+            return false;
+        for (std::int32_t position = 0; position < count; ++position) {
+            MenuItemRec left = *ItemAt(a, {menu, position});
+            MenuItemRec right = *ItemAt(b, {menu, position});
+            left.next = left.previous = right.next = right.previous = -1;
+            if (!(left == right))
+                return false;
+        }
+    }
+    return true;
+}
+
+std::vector<Problem> ItemProblems(const MenuTable& table, std::int32_t menu, const MenuItemRec& fields) {
+    std::vector<Problem> problems;
+    if (Blank(fields.LABEL))
+        problems.push_back({Field::Label, "An item needs a label."});
+    const bool noPath = Blank(fields.PATH);
+    switch (fields.TYPE) {
+    case kItemFilename:
+        if (noPath)
+            problems.push_back({Field::Path, "Choose the file the item starts."});
+        break;
+    case kItemCommandName:
+        if (noPath)
+            problems.push_back({Field::Path, "Choose a command or type a command line."});
+        break;
+    case kItemFolderPath:
+        if (noPath)
+            problems.push_back({Field::Path, "Choose the folder the item lists."});
+        if (fields.RUNSTATE == kUserSpecifiedFilter && Blank(fields.FILETYPEMASK))
+            problems.push_back({Field::Mask, "Name the extensions to list, for example .txt.doc"});
+        break;
+    case kItemMenuName: {
+        const std::int32_t opened = MenuOpenedBy(table, fields);
+        if (noPath)
+            problems.push_back({Field::Path, "Choose the menu the item opens."});
+        else if (opened < 0)
+            problems.push_back({Field::Path, "There is no menu named '" + fields.PATH + "'."});
+        else if (opened == menu)
+            problems.push_back({Field::Path, kOwnMenu});
+        break;
+    }
+    default:
+        break;
+    }
+    return problems;
+}
+
+std::optional<std::string> MenuNameProblem(const MenuTable& table, std::int32_t menu, std::string_view name) {
+    if (Blank(name))
+        return "A menu needs a name.";
+    for (std::int32_t other = 0; other < table.MenuCount(); ++other)
+        if (other != menu && Text::EqualsIgnoreCase(table.menus[static_cast<std::size_t>(other) + 1].NAME, name))
+            return "There is already a menu named '" + table.menus[static_cast<std::size_t>(other) + 1].NAME + "'.";
+    return std::nullopt;
+}
+
+std::optional<std::string> OpenedMenuWarning(const MenuTable& table, std::int32_t menu) {
+    std::string openers;
+    int count = 0;
+    for (std::int32_t other = 0; other < table.MenuCount(); ++other) {
+        if (other == menu)
+            continue;
+        for (std::int32_t position = 0; position < ItemCount(table, other); ++position) {
+            const MenuItemRec& item = *ItemAt(table, {other, position});
+            if (MenuOpenedBy(table, item) != menu)
+                continue;
+            if (++count <= 5)
+                openers += "\n    " + MenuText(table, other) + " > " + item.LABEL;
+        }
+    }
+    if (count == 0)
+        return std::nullopt;
+    if (count > 5)
+        openers += "\n    ...";
+    return "The '" + MenuText(table, menu) + "' menu is opened by " + std::to_string(count) +
+           (count == 1 ? " item" : " items") + " of other menus:" + openers +
+           "\n\nOnce it is gone they open nothing. Delete it anyway?";
+}
+
+Outcome AddMenu(MenuTable& table) {
+    const std::int32_t number = DataManager::AddMenu(table);
+    for (int suffix = 1; MenuNameProblem(table, number - 1, table.menus[static_cast<std::size_t>(number)].NAME);)
+        table.menus[static_cast<std::size_t>(number)].NAME = "NewMenu" + std::to_string(++suffix);
+    return {{number - 1, -1}, {}};
+}
+
+Outcome RenameMenu(MenuTable& table, std::int32_t menu, std::string_view name) {
+    if (!MenuExists(table, menu))
+        return Refused("Choose a menu first.");
+    if (std::optional<std::string> problem = MenuNameProblem(table, menu, name))
+        return Refused(*problem);
+    std::string& current = table.menus[static_cast<std::size_t>(menu) + 1].NAME;
+    for (MenuItemRec& item : table.pool)
+        if (item.owner >= 0 && MenuOpenedBy(table, item) == menu)
+            item.PATH = name;
+    current = name;
+    return {{menu, -1}, {}};
+}
+
+Outcome DeleteMenu(MenuTable& table, std::int32_t menu) {
+    if (!MenuExists(table, menu))
+        return Refused("Choose a menu first.");
+    using namespace MessageBoxes;
+    if (std::optional<std::string> warning = OpenedMenuWarning(table, menu))
+        if (MsgBox(*warning, DataManager::kRemoveMenuTitle, kYesNo + kExclamation + kDefaultButton2) != kYes)
+            return Refused("The menu was kept.");
+    if (!DataManager::RemoveMenu(table, menu + 1))
+        return Refused("The menu was kept.");
+    return {{std::min(menu, table.MenuCount() - 1), -1}, {}};
+}
+
+Outcome AddItem(MenuTable& table, std::int32_t menu) {
+    if (!MenuExists(table, menu))
+        return Refused("Choose a menu first.");
+    return {Place_(table, menu, ItemCount(table, menu), NewItem()), {}};
+}
+
+Outcome InsertItem(MenuTable& table, std::int32_t menu, std::int32_t position) {
+    if (!MenuExists(table, menu))
+        return Refused("Choose a menu first.");
+    return {Place_(table, menu, std::max(position, 0), NewItem()), {}};
+}
+
+Outcome DeleteItem(MenuTable& table, Place item) {
+    if (!DataManager::DeleteItem(table, item.menu, item.position))
+        return Refused("Choose an item first.");
+    const std::int32_t count = ItemCount(table, item.menu);
+    return {{item.menu, count == 0 ? -1 : std::min(item.position, count - 1)}, {}};
+}
+
+Outcome CopyItem(MenuTable& table, Place item) {
+    const MenuItemRec* original = ItemAt(table, item);
+    if (!original)
+        return Refused("Choose an item first.");
+    const MenuItemRec fields = *original; // the pool may move when it grows
+    return {Place_(table, item.menu, item.position + 1, fields), {}};
+}
+
+Outcome SetItem(MenuTable& table, Place item, const MenuItemRec& fields) {
+    const std::int32_t slot = DataManager::FindItem(table, item.menu, item.position);
+    if (slot == kNoItem)
+        return Refused("Choose an item first.");
+    if (std::vector<Problem> problems = ItemProblems(table, item.menu, fields); !problems.empty())
+        return Refused(problems.front().text);
+    Fill(table, slot, fields);
+    return {item, {}};
+}
+
+Outcome MoveItem(MenuTable& table, Place item, std::int32_t toMenu, std::int32_t to) {
+    const MenuItemRec* original = ItemAt(table, item);
+    if (!original)
+        return Refused("Choose an item first.");
+    if (!MenuExists(table, toMenu))
+        return Refused("Choose the menu to move the item to.");
+    if (toMenu != item.menu && MenuOpenedBy(table, *original) == toMenu)
+        return Refused(kOwnMenu);
+    const MenuItemRec fields = *original;
+    DataManager::DeleteItem(table, item.menu, item.position);
+    return {Place_(table, toMenu, to, fields), {}};
+}
+
+Outcome MoveUp(MenuTable& table, Place item) {
+    if (!ItemAt(table, item))
+        return Refused("Choose an item first.");
+    if (item.position == 0)
+        return Refused("The item is the first of its menu already.");
+    return MoveItem(table, item, item.menu, item.position - 1);
+}
+
+Outcome MoveDown(MenuTable& table, Place item) {
+    if (!ItemAt(table, item))
+        return Refused("Choose an item first.");
+    if (item.position + 1 >= ItemCount(table, item.menu))
+        return Refused("The item is the last of its menu already.");
+    return MoveItem(table, item, item.menu, item.position + 1);
+}
+
+} // namespace MenuEditor

@@ -1,0 +1,354 @@
+#include "prefs/win/item_dialog.h"
+
+#include "prefs/menu_editor.h"
+#include "prefs/win/common_dialogs.h"
+#include "win/text_convert.h"
+
+#include <commctrl.h>
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <string>
+
+using MenuEditor::Field;
+
+namespace PrefsWin {
+
+namespace {
+
+enum ControlId {
+    kTypeId = 100, kLabelId, kPathId, kPathBrowseId, kChoicesId, kStartId, kStartBrowseId, kArgId, kArgLabelId,
+    kRunId, kRunLabelId, kMaskId, kIconId, kIconBrowseId, kHotKeyId, kLabelNoteId, kPathNoteId, kMaskNoteId
+};
+
+// The dialog's parts, in dialog units.
+constexpr int kWidth = 280;
+constexpr int kHeight = 292;
+constexpr int kMargin = 7;
+constexpr int kFieldX = 66;
+constexpr int kFieldWidth = 150;
+constexpr int kBrowseX = kFieldX + kFieldWidth + 4;
+constexpr int kBrowseWidth = kWidth - kMargin - kBrowseX;
+constexpr int kFieldHeight = 12;
+constexpr COLORREF kNoteColour = RGB(192, 0, 0);
+
+std::wstring WindowText(HWND window) {
+    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
+    return text;
+}
+
+class ItemDialog {
+public:
+    ItemDialog(const MenuItemRec& item, const ItemDialogContext& context) : item_(item), context_(context) {}
+
+    std::optional<MenuItemRec> Run(HWND owner) {
+        // An empty template: the controls are made in dialog units of the preferences' font.
+        struct {
+            DLGTEMPLATE header;
+            WORD menu, windowClass, title;
+        } dialog{};
+        dialog.header.style = DS_MODALFRAME | DS_CENTER | WS_POPUP | WS_CAPTION | WS_SYSMENU;
+        const INT_PTR answer = ::DialogBoxIndirectParamW(::GetModuleHandleW(nullptr), &dialog.header, owner,
+                                                         &ItemDialog::DialogProc, reinterpret_cast<LPARAM>(this));
+        if (answer != IDOK)
+            return std::nullopt;
+        return item_;
+    }
+
+private:
+    static INT_PTR CALLBACK DialogProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+        if (message == WM_INITDIALOG)
+            ::SetWindowLongPtrW(hwnd, DWLP_USER, lParam);
+        auto* self = reinterpret_cast<ItemDialog*>(::GetWindowLongPtrW(hwnd, DWLP_USER));
+        return self ? self->Handle(hwnd, message, wParam, lParam) : FALSE;
+    }
+
+    HWND Make(const wchar_t* className, const wchar_t* text, DWORD style, int x, int y, int width, int height,
+              int id = 0) {
+        const DialogFont& font = context_.font;
+        return MakeChild(hwnd_, className, text, style,
+                         {font.X(x), font.Y(y), font.X(x + width), font.Y(y + height)}, id);
+    }
+
+    HWND Label(const wchar_t* text, int y, int id = 0) {
+        return Make(WC_STATICW, text, SS_LEFT, kMargin, y + 2, kFieldX - kMargin - 2, 8, id);
+    }
+
+    HWND Edit(int id, int y, int width = kFieldWidth) {
+        return Make(WC_EDITW, L"", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP, kFieldX, y, width, kFieldHeight, id);
+    }
+
+    HWND Note(int id, int y) { return Make(WC_STATICW, L"", SS_LEFT, kFieldX, y, kWidth - kMargin - kFieldX, 8, id); }
+
+    void Browse(int id, int y) {
+        Make(WC_BUTTONW, L"Browse...", BS_PUSHBUTTON | WS_TABSTOP, kBrowseX, y - 1, kBrowseWidth, 14, id);
+    }
+
+    void Form_Load() {
+        const DialogFont& font = context_.font;
+        ::SetWindowTextW(hwnd_, kItemDialogTitle);
+        RECT frame{0, 0, font.X(kWidth), font.Y(kHeight)};
+        ::AdjustWindowRectEx(&frame, static_cast<DWORD>(::GetWindowLongPtrW(hwnd_, GWL_STYLE)), FALSE, 0);
+        // Centred on the owner now that its size is known, and kept on the screen.
+        const int width = frame.right - frame.left;
+        const int height = frame.bottom - frame.top;
+        RECT owner{};
+        ::GetWindowRect(::GetWindow(hwnd_, GW_OWNER), &owner);
+        MONITORINFO monitor{};
+        monitor.cbSize = sizeof monitor;
+        ::GetMonitorInfoW(::MonitorFromWindow(hwnd_, MONITOR_DEFAULTTONEAREST), &monitor);
+        const RECT& work = monitor.rcWork;
+        const int left = std::clamp<int>((owner.left + owner.right - width) / 2, work.left,
+                                         std::max<int>(work.left, work.right - width));
+        const int top = std::clamp<int>((owner.top + owner.bottom - height) / 2, work.top,
+                                        std::max<int>(work.top, work.bottom - height));
+        ::SetWindowPos(hwnd_, nullptr, left, top, width, height, SWP_NOZORDER);
+        Label(L"&Type:", 7);
+        type_ = Make(WC_COMBOBOXW, L"", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, kFieldX, 7, kFieldWidth, 100,
+                     kTypeId);
+        for (std::string_view name : MenuEditor::kTypeNames)
+            ::SendMessageW(type_, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Win::Widen(name).c_str()));
+        Label(L"&Label:", 24);
+        label_ = Edit(kLabelId, 24);
+        Note(kLabelNoteId, 38);
+        Label(L"&Path:", 48);
+        path_ = Edit(kPathId, 48);
+        Browse(kPathBrowseId, 48);
+        Note(kPathNoteId, 62);
+        choices_ = Make(WC_LISTBOXW, L"", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_BORDER | WS_TABSTOP,
+                        kFieldX, 72, kWidth - kMargin - kFieldX, 80, kChoicesId);
+        Label(L"Start &folder:", 158);
+        start_ = Edit(kStartId, 158);
+        Browse(kStartBrowseId, 158);
+        argLabel_ = Label(L"&Arguments:", 174, kArgLabelId);
+        arg_ = Edit(kArgId, 174);
+        runLabel_ = Label(L"&Run state:", 190, kRunLabelId);
+        run_ = Make(WC_COMBOBOXW, L"", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, kFieldX, 190, kFieldWidth, 80,
+                    kRunId);
+        Label(L"File t&ypes:", 206);
+        mask_ = Edit(kMaskId, 206);
+        Note(kMaskNoteId, 220);
+        Label(L"I&con:", 230);
+        icon_ = Edit(kIconId, 230);
+        Browse(kIconBrowseId, 230);
+        Label(L"&Hot key:", 246);
+        hotKey_ = Edit(kHotKeyId, 246, 20);
+        ::SendMessageW(hotKey_, EM_LIMITTEXT, 1, 0);
+        Make(WC_STATICW, L"a letter that chooses the item in its menu", SS_LEFT, kFieldX + 26, 248, 160, 8);
+        const int buttonsY = kHeight - kMargin - 14;
+        Make(WC_BUTTONW, L"OK", BS_DEFPUSHBUTTON | WS_TABSTOP, kWidth - kMargin - 104, buttonsY, 50, 14, IDOK);
+        Make(WC_BUTTONW, L"Cancel", BS_PUSHBUTTON | WS_TABSTOP, kWidth - kMargin - 50, buttonsY, 50, 14, IDCANCEL);
+        SetFontOfChildren(hwnd_, font.get());
+
+        ::SendMessageW(type_, CB_SETCURSEL, item_.TYPE < MenuEditor::kTypeNames.size() ? item_.TYPE : 0, 0);
+        SetText(label_, item_.LABEL);
+        SetText(path_, item_.PATH);
+        SetText(start_, item_.STARTPATH);
+        SetText(arg_, item_.ARG);
+        SetText(mask_, item_.FILETYPEMASK);
+        SetText(icon_, item_.ICONPATH);
+        SetText(hotKey_, item_.HOTKEY == "0" ? std::string() : item_.HOTKEY);
+        Type_Changed();
+    }
+
+    static void SetText(HWND control, const std::string& text) { ::SetWindowTextW(control, Win::Widen(text).c_str()); }
+    static std::string TextOf(HWND control) { return Win::Narrow(WindowText(control)); }
+
+    std::uint8_t Type() const {
+        const LRESULT index = ::SendMessageW(type_, CB_GETCURSEL, 0, 0);
+        return static_cast<std::uint8_t>(index < 0 ? 0 : index);
+    }
+
+    // The menus an item of this menu may open: every other one.
+    std::vector<std::string> MenuNames() const {
+        std::vector<std::string> names;
+        for (std::int32_t menu = 0; menu < context_.menus.MenuCount(); ++menu)
+            if (menu != context_.menu)
+                names.push_back(context_.menus.menus[static_cast<std::size_t>(menu) + 1].NAME);
+        return names;
+    }
+
+    // The fields that follow the type: the list of choices, what RUNSTATE and ARG mean,
+    // the pickers that fit it.
+    void Type_Changed() {
+        const std::uint8_t type = Type();
+        const std::string path = TextOf(path_);
+        ::SendMessageW(choices_, LB_RESETCONTENT, 0, 0);
+        int selected = -1;
+        auto add = [&](const std::string& text, bool current) {
+            const auto index = ::SendMessageW(choices_, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Win::Widen(text).c_str()));
+            if (current)
+                selected = static_cast<int>(index);
+        };
+        if (type == kItemCommandName)
+            for (const CommandTable::CommandRow& row : context_.commands)
+                add(row.label, row.command == path);
+        if (type == kItemMenuName)
+            for (const std::string& name : MenuNames())
+                add(name, name == path);
+        ::SendMessageW(choices_, LB_SETCURSEL, static_cast<WPARAM>(selected), 0);
+        ::EnableWindow(choices_, type == kItemCommandName || type == kItemMenuName);
+        ::EnableWindow(::GetDlgItem(hwnd_, kPathBrowseId), type <= kItemFolderPath);
+        ::EnableWindow(path_, type != kItemTaskList);
+
+        const bool folder = type == kItemFolderPath;
+        ::SetWindowTextW(argLabel_, folder ? L"Second f&older:" : L"&Arguments:");
+        ::SetWindowTextW(runLabel_, folder ? L"&Show:" : L"&Run state:");
+        const LRESULT run = ::SendMessageW(run_, CB_GETCURSEL, 0, 0);
+        const int runState = run < 0 ? item_.RUNSTATE : static_cast<int>(run);
+        ::SendMessageW(run_, CB_RESETCONTENT, 0, 0);
+        std::span<const std::string_view> names = MenuEditor::kRunStateNames;
+        if (folder)
+            names = MenuEditor::kFolderFilterNames;
+        for (std::string_view name : names)
+            ::SendMessageW(run_, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Win::Widen(name).c_str()));
+        ::SendMessageW(run_, CB_SETCURSEL, static_cast<std::size_t>(runState) < names.size() ? runState : 0, 0);
+        Run_Changed();
+    }
+
+    void Run_Changed() {
+        const bool userMask = Type() == kItemFolderPath &&
+                              ::SendMessageW(run_, CB_GETCURSEL, 0, 0) == MenuEditor::kUserSpecifiedFilter;
+        ::EnableWindow(mask_, userMask);
+    }
+
+    void Choices_Click() {
+        const LRESULT index = ::SendMessageW(choices_, LB_GETCURSEL, 0, 0);
+        if (index < 0)
+            return;
+        std::string label;
+        if (Type() == kItemCommandName) {
+            const CommandTable::CommandRow& row = context_.commands[static_cast<std::size_t>(index)];
+            SetText(path_, row.command);
+            label = row.label;
+        } else {
+            label = MenuNames()[static_cast<std::size_t>(index)];
+            SetText(path_, label);
+        }
+        const std::string current = TextOf(label_);
+        if (current.empty() || current == MenuEditor::kNewItemLabel)
+            SetText(label_, label);
+    }
+
+    void PathBrowse_Click() {
+        const std::string current = TextOf(path_);
+        std::optional<std::string> chosen;
+        if (Type() == kItemFolderPath) {
+            chosen = PickFolder(hwnd_, current);
+            if (chosen && !chosen->ends_with('\\'))
+                *chosen += '\\'; // a folder item's path ends in a backslash
+        } else {
+            chosen = PickFile(hwnd_, current, L"Programs and documents", L"*.*");
+        }
+        if (!chosen)
+            return;
+        SetText(path_, *chosen);
+        const std::string label = TextOf(label_);
+        if (label.empty() || label == MenuEditor::kNewItemLabel) {
+            std::string_view whole = *chosen;
+            if (whole.ends_with('\\'))
+                whole.remove_suffix(1);
+            std::string name(whole.substr(whole.find_last_of('\\') + 1));
+            if (const auto dot = name.find_last_of('.'); Type() != kItemFolderPath && dot != std::string::npos && dot > 0)
+                name.resize(dot);
+            SetText(label_, name);
+        }
+    }
+
+    void OK_Click() {
+        MenuItemRec fields = item_;
+        fields.TYPE = Type();
+        fields.LABEL = TextOf(label_);
+        fields.PATH = TextOf(path_);
+        fields.STARTPATH = TextOf(start_);
+        fields.ARG = TextOf(arg_);
+        fields.RUNSTATE = static_cast<std::uint8_t>(std::max<LRESULT>(0, ::SendMessageW(run_, CB_GETCURSEL, 0, 0)));
+        fields.FILETYPEMASK = TextOf(mask_);
+        fields.ICONPATH = TextOf(icon_);
+        fields.HOTKEY = TextOf(hotKey_);
+        if (fields.HOTKEY.empty())
+            fields.HOTKEY.assign(1, '0'); // "0": no hot key
+        std::array<std::string, 3> notes; // label, path, mask
+        for (const MenuEditor::Problem& problem : MenuEditor::ItemProblems(context_.menus, context_.menu, fields))
+            if (std::string& note = notes[static_cast<std::size_t>(problem.field)]; note.empty())
+                note = problem.text;
+        SetText(::GetDlgItem(hwnd_, kLabelNoteId), notes[0]);
+        SetText(::GetDlgItem(hwnd_, kPathNoteId), notes[1]);
+        SetText(::GetDlgItem(hwnd_, kMaskNoteId), notes[2]);
+        for (std::size_t which = 0; which < notes.size(); ++which) {
+            if (!notes[which].empty()) {
+                HWND field = which == 0 ? label_ : which == 1 ? path_ : mask_;
+                ::SendMessageW(hwnd_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(field), TRUE);
+                return;
+            }
+        }
+        item_ = fields;
+        ::EndDialog(hwnd_, IDOK);
+    }
+
+    INT_PTR Handle(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+        switch (message) {
+        case WM_INITDIALOG:
+            hwnd_ = hwnd;
+            Form_Load();
+            return TRUE;
+        case WM_CTLCOLORSTATIC: {
+            const int id = ::GetDlgCtrlID(reinterpret_cast<HWND>(lParam));
+            if (id != kLabelNoteId && id != kPathNoteId && id != kMaskNoteId)
+                return FALSE;
+            HDC dc = reinterpret_cast<HDC>(wParam);
+            ::SetTextColor(dc, kNoteColour);
+            ::SetBkMode(dc, TRANSPARENT);
+            return reinterpret_cast<INT_PTR>(::GetSysColorBrush(COLOR_BTNFACE));
+        }
+        case WM_COMMAND: {
+            const int code = HIWORD(wParam);
+            switch (LOWORD(wParam)) {
+            case IDOK: OK_Click(); return TRUE;
+            case IDCANCEL: ::EndDialog(hwnd, IDCANCEL); return TRUE;
+            case kTypeId:
+                if (code == CBN_SELCHANGE)
+                    Type_Changed();
+                return TRUE;
+            case kRunId:
+                if (code == CBN_SELCHANGE)
+                    Run_Changed();
+                return TRUE;
+            case kChoicesId:
+                if (code == LBN_SELCHANGE)
+                    Choices_Click();
+                return TRUE;
+            case kPathBrowseId: PathBrowse_Click(); return TRUE;
+            case kStartBrowseId:
+                if (auto folder = PickFolder(hwnd, TextOf(start_)))
+                    SetText(start_, *folder);
+                return TRUE;
+            case kIconBrowseId:
+                if (auto icon = PickFile(hwnd, TextOf(icon_), L"Icons", L"*.ico;*.exe;*.dll"))
+                    SetText(icon_, *icon);
+                return TRUE;
+            default: return FALSE;
+            }
+        }
+        default:
+            return FALSE;
+        }
+    }
+
+    MenuItemRec item_;
+    const ItemDialogContext& context_;
+    HWND hwnd_ = nullptr;
+    HWND type_ = nullptr, label_ = nullptr, path_ = nullptr, choices_ = nullptr, start_ = nullptr, arg_ = nullptr,
+         argLabel_ = nullptr, run_ = nullptr, runLabel_ = nullptr, mask_ = nullptr, icon_ = nullptr,
+         hotKey_ = nullptr;
+};
+
+} // namespace
+
+std::optional<MenuItemRec> EditItem(HWND owner, const MenuItemRec& item, const ItemDialogContext& context) {
+    return ItemDialog(item, context).Run(owner);
+}
+
+} // namespace PrefsWin
