@@ -139,6 +139,55 @@ std::vector<Problem> ItemProblems(const MenuTable& table, std::int32_t menu, con
     return problems;
 }
 
+bool FieldUsed(const MenuItemRec& fields, ItemField field) {
+    const std::uint8_t type = fields.TYPE;
+    const bool file = type == kItemFilename;
+    const bool folder = type == kItemFolderPath;
+    switch (field) {
+    case ItemField::Path: return type != kItemTaskList;
+    case ItemField::PathBrowse: return file || folder;
+    case ItemField::Choices: return type == kItemCommandName || type == kItemMenuName;
+    case ItemField::StartFolder: return file;
+    case ItemField::Arguments:
+    case ItemField::RunState: return file || folder;
+    case ItemField::Mask: return folder && fields.RUNSTATE == kUserSpecifiedFilter;
+    case ItemField::Icon:
+    case ItemField::HotKey: return true;
+    }
+    return false;
+}
+
+std::optional<std::string> HotKeyClash(const MenuTable& table, Place item, std::string_view hotkey) {
+    if (Blank(hotkey) || hotkey == "0")
+        return std::nullopt;
+    for (std::int32_t position = 0; position < ItemCount(table, item.menu); ++position) {
+        const MenuItemRec& other = *ItemAt(table, {item.menu, position});
+        if (position != item.position && other.HOTKEY != "0" && Text::EqualsIgnoreCase(other.HOTKEY, hotkey))
+            return "'" + other.LABEL + "' in this menu has this hot key too; the key chooses the first of them.";
+    }
+    return std::nullopt;
+}
+
+MenuItemRec DroppedItem(std::string_view path, bool folder) {
+    while (path.size() > 3 && path.ends_with('\\'))
+        path.remove_suffix(1);
+    std::string name(path.substr(path.find_last_of("\\/") + 1));
+    MenuItemRec item = NewItem();
+    item.PATH = path;
+    if (folder) {
+        item.TYPE = kItemFolderPath;
+        if (!item.PATH.ends_with('\\'))
+            item.PATH += '\\';
+    } else if (const std::size_t dot = name.find_last_of('.'); dot != std::string::npos && dot > 0) {
+        name.resize(dot);
+    }
+    if (Blank(name)) // a drive's root: "C:"
+        name = path.substr(0, path.find_last_not_of('\\') + 1);
+    if (!Blank(name))
+        item.LABEL = name;
+    return item;
+}
+
 std::optional<std::string> MenuNameProblem(const MenuTable& table, std::int32_t menu, std::string_view name) {
     if (Blank(name))
         return "A menu needs a name.";
@@ -213,6 +262,18 @@ Outcome InsertItem(MenuTable& table, std::int32_t menu, std::int32_t position) {
     if (!MenuExists(table, menu))
         return Refused("Choose a menu first.");
     return {Place_(table, menu, std::max(position, 0), NewItem()), {}};
+}
+
+Outcome InsertItems(MenuTable& table, std::int32_t menu, std::int32_t position,
+                    const std::vector<MenuItemRec>& items) {
+    if (!MenuExists(table, menu))
+        return Refused("Choose a menu first.");
+    if (items.empty())
+        return Refused("Nothing was dropped that an item can stand for.");
+    position = std::clamp(position, 0, ItemCount(table, menu));
+    for (std::size_t added = 0; added < items.size(); ++added)
+        Place_(table, menu, position + static_cast<std::int32_t>(added), items[added]);
+    return {{menu, position}, {}};
 }
 
 Outcome DeleteItem(MenuTable& table, Place item) {

@@ -58,6 +58,19 @@ struct Problem {
 
 // Why the item's fields cannot stand in menu `menu`; empty when they can.
 std::vector<Problem> ItemProblems(const MenuTable& table, std::int32_t menu, const MenuItemRec& fields);
+// The item dialog's fields beyond type and label; each item type uses some of them, and
+// the dialog greys the others.
+enum class ItemField { Path, PathBrowse, Choices, StartFolder, Arguments, RunState, Mask, Icon, HotKey };
+bool FieldUsed(const MenuItemRec& fields, ItemField field);
+
+// The other item of the menu that has the same hot key, named for the note beside the
+// field; nothing when none has. Only the first of them answers the key in the menu.
+std::optional<std::string> HotKeyClash(const MenuTable& table, Place item, std::string_view hotkey);
+
+// The item a file or folder dropped from the shell becomes: a folder lists its files, a
+// file (a shortcut too) is started; the label is the name without its extension.
+MenuItemRec DroppedItem(std::string_view path, bool folder);
+
 // Why menu `menu` cannot be named `name`; nothing when it can.
 std::optional<std::string> MenuNameProblem(const MenuTable& table, std::int32_t menu, std::string_view name);
 // The warning before deleting a menu that items of other menus open; nothing when none does.
@@ -83,6 +96,9 @@ Outcome DeleteMenu(MenuTable& table, std::int32_t menu);
 // A new "NewItem" at the end of the menu, or before the item at position.
 Outcome AddItem(MenuTable& table, std::int32_t menu);
 Outcome InsertItem(MenuTable& table, std::int32_t menu, std::int32_t position);
+// Items made elsewhere (files dropped on the tree), in their order, from position on
+// (past the last item: at the end); the first of them is selected.
+Outcome InsertItems(MenuTable& table, std::int32_t menu, std::int32_t position, const std::vector<MenuItemRec>& items);
 Outcome DeleteItem(MenuTable& table, Place item);
 // A copy of the item, right after it.
 Outcome CopyItem(MenuTable& table, Place item);

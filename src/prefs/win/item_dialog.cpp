@@ -1,7 +1,9 @@
 #include "prefs/win/item_dialog.h"
 
-#include "prefs/menu_editor.h"
+#include "menuwindow/layout/item_list.h"
+#include "menuwindow/win/item_icons.h"
 #include "prefs/win/common_dialogs.h"
+#include "win/handles.h"
 #include "win/text_convert.h"
 
 #include <commctrl.h>
@@ -10,8 +12,10 @@
 #include <array>
 #include <span>
 #include <string>
+#include <vector>
 
 using MenuEditor::Field;
+using MenuEditor::ItemField;
 
 namespace PrefsWin {
 
@@ -19,7 +23,8 @@ namespace {
 
 enum ControlId {
     kTypeId = 100, kLabelId, kPathId, kPathBrowseId, kChoicesId, kStartId, kStartBrowseId, kArgId, kArgLabelId,
-    kRunId, kRunLabelId, kMaskId, kIconId, kIconBrowseId, kHotKeyId, kLabelNoteId, kPathNoteId, kMaskNoteId
+    kRunId, kRunLabelId, kMaskId, kIconId, kIconBrowseId, kHotKeyId, kLabelNoteId, kPathNoteId, kMaskNoteId,
+    kIconPreviewId, kHotKeyNoteId, kStartLabelId, kMaskLabelId
 };
 
 // The dialog's parts, in dialog units.
@@ -32,6 +37,16 @@ constexpr int kBrowseX = kFieldX + kFieldWidth + 4;
 constexpr int kBrowseWidth = kWidth - kMargin - kBrowseX;
 constexpr int kFieldHeight = 12;
 constexpr COLORREF kNoteColour = RGB(192, 0, 0);
+
+// The icon an item with these fields shows in its menu; null when it shows none.
+Win::UniqueIcon IconOf(const MenuItemRec& fields, int size) {
+    DisplayEntry entry;
+    entry.TYPE = fields.TYPE;
+    entry.PATH = fields.PATH;
+    entry.ICONPATH = fields.ICONPATH;
+    const std::optional<MenuWindow::IconSource> source = MenuWindow::IconSourceOf(entry);
+    return source ? MenuWindow::LoadItemIcon(*source, size) : Win::UniqueIcon{};
+}
 
 std::wstring WindowText(HWND window) {
     std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
@@ -117,9 +132,11 @@ private:
         path_ = Edit(kPathId, 48);
         Browse(kPathBrowseId, 48);
         Note(kPathNoteId, 62);
-        choices_ = Make(WC_LISTBOXW, L"", LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_BORDER | WS_TABSTOP,
+        choices_ = Make(WC_LISTBOXW, L"",
+                        LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | LBS_OWNERDRAWFIXED | LBS_HASSTRINGS | WS_VSCROLL |
+                            WS_BORDER | WS_TABSTOP,
                         kFieldX, 72, kWidth - kMargin - kFieldX, 80, kChoicesId);
-        Label(L"Start &folder:", 158);
+        Label(L"Start &folder:", 158, kStartLabelId);
         start_ = Edit(kStartId, 158);
         Browse(kStartBrowseId, 158);
         argLabel_ = Label(L"&Arguments:", 174, kArgLabelId);
@@ -127,7 +144,7 @@ private:
         runLabel_ = Label(L"&Run state:", 190, kRunLabelId);
         run_ = Make(WC_COMBOBOXW, L"", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP, kFieldX, 190, kFieldWidth, 80,
                     kRunId);
-        Label(L"File t&ypes:", 206);
+        Label(L"File t&ypes:", 206, kMaskLabelId);
         mask_ = Edit(kMaskId, 206);
         Note(kMaskNoteId, 220);
         Label(L"I&con:", 230);
@@ -137,6 +154,11 @@ private:
         hotKey_ = Edit(kHotKeyId, 246, 20);
         ::SendMessageW(hotKey_, EM_LIMITTEXT, 1, 0);
         Make(WC_STATICW, L"a letter that chooses the item in its menu", SS_LEFT, kFieldX + 26, 248, 160, 8);
+        Note(kHotKeyNoteId, 260);
+        const int iconSize = ::GetSystemMetrics(SM_CXICON);
+        preview_ = MakeChild(hwnd_, WC_STATICW, L"", SS_ICON | SS_CENTERIMAGE,
+                             {font.X(kBrowseX), font.Y(7), font.X(kBrowseX + kBrowseWidth), font.Y(7) + iconSize},
+                             kIconPreviewId);
         const int buttonsY = kHeight - kMargin - 14;
         Make(WC_BUTTONW, L"OK", BS_DEFPUSHBUTTON | WS_TABSTOP, kWidth - kMargin - 104, buttonsY, 50, 14, IDOK);
         Make(WC_BUTTONW, L"Cancel", BS_PUSHBUTTON | WS_TABSTOP, kWidth - kMargin - 50, buttonsY, 50, 14, IDCANCEL);
@@ -151,6 +173,7 @@ private:
         SetText(icon_, item_.ICONPATH);
         SetText(hotKey_, item_.HOTKEY == "0" ? std::string() : item_.HOTKEY);
         Type_Changed();
+        HotKey_Changed();
     }
 
     static void SetText(HWND control, const std::string& text) { ::SetWindowTextW(control, Win::Widen(text).c_str()); }
@@ -165,7 +188,7 @@ private:
     std::vector<std::string> MenuNames() const {
         std::vector<std::string> names;
         for (std::int32_t menu = 0; menu < context_.menus.MenuCount(); ++menu)
-            if (menu != context_.menu)
+            if (menu != context_.place.menu)
                 names.push_back(context_.menus.menus[static_cast<std::size_t>(menu) + 1].NAME);
         return names;
     }
@@ -189,9 +212,8 @@ private:
             for (const std::string& name : MenuNames())
                 add(name, name == path);
         ::SendMessageW(choices_, LB_SETCURSEL, static_cast<WPARAM>(selected), 0);
-        ::EnableWindow(choices_, type == kItemCommandName || type == kItemMenuName);
-        ::EnableWindow(::GetDlgItem(hwnd_, kPathBrowseId), type <= kItemFolderPath);
-        ::EnableWindow(path_, type != kItemTaskList);
+        commandIcons_.clear();
+        commandIcons_.resize(type == kItemCommandName ? context_.commands.size() : 0);
 
         const bool folder = type == kItemFolderPath;
         ::SetWindowTextW(argLabel_, folder ? L"Second f&older:" : L"&Arguments:");
@@ -208,10 +230,70 @@ private:
         Run_Changed();
     }
 
+    // Greys the fields the item's type and filter make no use of.
     void Run_Changed() {
-        const bool userMask = Type() == kItemFolderPath &&
-                              ::SendMessageW(run_, CB_GETCURSEL, 0, 0) == MenuEditor::kUserSpecifiedFilter;
-        ::EnableWindow(mask_, userMask);
+        const MenuItemRec fields = Fields();
+        const std::pair<ItemField, std::vector<int>> controls[] = {
+            {ItemField::Path, {kPathId}},
+            {ItemField::PathBrowse, {kPathBrowseId}},
+            {ItemField::StartFolder, {kStartId, kStartBrowseId, kStartLabelId}},
+            {ItemField::Arguments, {kArgId, kArgLabelId}},
+            {ItemField::RunState, {kRunId, kRunLabelId}},
+            {ItemField::Mask, {kMaskId, kMaskLabelId}},
+        };
+        for (const auto& [field, ids] : controls)
+            for (int id : ids)
+                ::EnableWindow(::GetDlgItem(hwnd_, id), MenuEditor::FieldUsed(fields, field));
+        // An empty list would only look like a field to fill.
+        ::ShowWindow(choices_, MenuEditor::FieldUsed(fields, ItemField::Choices) ? SW_SHOWNA : SW_HIDE);
+        Icon_Changed();
+    }
+
+    void Icon_Changed() {
+        Win::UniqueIcon icon = IconOf(Fields(), ::GetSystemMetrics(SM_CXICON));
+        ::SendMessageW(preview_, STM_SETICON, reinterpret_cast<WPARAM>(icon.get()), 0);
+        previewIcon_ = std::move(icon); // the one shown before goes once it is no longer shown
+    }
+
+    void HotKey_Changed() {
+        const std::optional<std::string> clash =
+            MenuEditor::HotKeyClash(context_.menus, context_.place, TextOf(hotKey_));
+        SetText(::GetDlgItem(hwnd_, kHotKeyNoteId), clash.value_or(""));
+    }
+
+    // A row of the choices: a command with its icon, or a menu's name.
+    void Choices_Draw(const DRAWITEMSTRUCT& draw) {
+        if (draw.itemID == static_cast<UINT>(-1))
+            return;
+        const bool selected = draw.itemState & ODS_SELECTED;
+        const bool enabled = ::IsWindowEnabled(choices_);
+        ::FillRect(draw.hDC, &draw.rcItem, ::GetSysColorBrush(selected && enabled ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+        const int iconSize = ::GetSystemMetrics(SM_CXSMICON);
+        RECT text = draw.rcItem;
+        text.left += 2;
+        if (draw.itemID < commandIcons_.size()) {
+            std::optional<Win::UniqueIcon>& icon = commandIcons_[draw.itemID];
+            if (!icon) {
+                MenuItemRec row;
+                row.TYPE = kItemCommandName;
+                row.ICONPATH = context_.commands[draw.itemID].icon;
+                icon = IconOf(row, iconSize);
+            }
+            if (icon->get())
+                ::DrawIconEx(draw.hDC, text.left, (text.top + text.bottom - iconSize) / 2, icon->get(), iconSize,
+                             iconSize, 0, nullptr, DI_NORMAL);
+            text.left += iconSize + 4;
+        }
+        std::wstring label(static_cast<std::size_t>(::SendMessageW(choices_, LB_GETTEXTLEN, draw.itemID, 0)), L'\0');
+        ::SendMessageW(choices_, LB_GETTEXT, draw.itemID, reinterpret_cast<LPARAM>(label.data()));
+        ::SetBkMode(draw.hDC, TRANSPARENT);
+        ::SetTextColor(draw.hDC, ::GetSysColor(!enabled           ? COLOR_GRAYTEXT
+                                               : selected ? COLOR_HIGHLIGHTTEXT
+                                                          : COLOR_WINDOWTEXT));
+        ::DrawTextW(draw.hDC, label.c_str(), static_cast<int>(label.size()), &text,
+                    DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+        if (draw.itemState & ODS_FOCUS)
+            ::DrawFocusRect(draw.hDC, &draw.rcItem);
     }
 
     void Choices_Click() {
@@ -223,6 +305,8 @@ private:
             const CommandTable::CommandRow& row = context_.commands[static_cast<std::size_t>(index)];
             SetText(path_, row.command);
             label = row.label;
+            if (TextOf(icon_).empty()) // the menu shows the command's own icon
+                SetText(icon_, row.icon);
         } else {
             label = MenuNames()[static_cast<std::size_t>(index)];
             SetText(path_, label);
@@ -257,7 +341,8 @@ private:
         }
     }
 
-    void OK_Click() {
+    // The item as the fields stand.
+    MenuItemRec Fields() const {
         MenuItemRec fields = item_;
         fields.TYPE = Type();
         fields.LABEL = TextOf(label_);
@@ -270,8 +355,13 @@ private:
         fields.HOTKEY = TextOf(hotKey_);
         if (fields.HOTKEY.empty())
             fields.HOTKEY.assign(1, '0'); // "0": no hot key
+        return fields;
+    }
+
+    void OK_Click() {
+        const MenuItemRec fields = Fields();
         std::array<std::string, 3> notes; // label, path, mask
-        for (const MenuEditor::Problem& problem : MenuEditor::ItemProblems(context_.menus, context_.menu, fields))
+        for (const MenuEditor::Problem& problem : MenuEditor::ItemProblems(context_.menus, context_.place.menu, fields))
             if (std::string& note = notes[static_cast<std::size_t>(problem.field)]; note.empty())
                 note = problem.text;
         SetText(::GetDlgItem(hwnd_, kLabelNoteId), notes[0]);
@@ -296,13 +386,23 @@ private:
             return TRUE;
         case WM_CTLCOLORSTATIC: {
             const int id = ::GetDlgCtrlID(reinterpret_cast<HWND>(lParam));
-            if (id != kLabelNoteId && id != kPathNoteId && id != kMaskNoteId)
+            if (id != kLabelNoteId && id != kPathNoteId && id != kMaskNoteId && id != kHotKeyNoteId)
                 return FALSE;
             HDC dc = reinterpret_cast<HDC>(wParam);
             ::SetTextColor(dc, kNoteColour);
             ::SetBkMode(dc, TRANSPARENT);
             return reinterpret_cast<INT_PTR>(::GetSysColorBrush(COLOR_BTNFACE));
         }
+        case WM_MEASUREITEM: {
+            auto& measure = *reinterpret_cast<MEASUREITEMSTRUCT*>(lParam);
+            measure.itemHeight = static_cast<UINT>(std::max(::GetSystemMetrics(SM_CYSMICON), context_.font.Y(8)) + 2);
+            return TRUE;
+        }
+        case WM_DRAWITEM:
+            if (wParam != kChoicesId)
+                return FALSE;
+            Choices_Draw(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+            return TRUE;
         case WM_COMMAND: {
             const int code = HIWORD(wParam);
             switch (LOWORD(wParam)) {
@@ -319,6 +419,15 @@ private:
             case kChoicesId:
                 if (code == LBN_SELCHANGE)
                     Choices_Click();
+                return TRUE;
+            case kPathId:
+            case kIconId:
+                if (code == EN_CHANGE)
+                    Icon_Changed();
+                return TRUE;
+            case kHotKeyId:
+                if (code == EN_CHANGE)
+                    HotKey_Changed();
                 return TRUE;
             case kPathBrowseId: PathBrowse_Click(); return TRUE;
             case kStartBrowseId:
@@ -342,7 +451,9 @@ private:
     HWND hwnd_ = nullptr;
     HWND type_ = nullptr, label_ = nullptr, path_ = nullptr, choices_ = nullptr, start_ = nullptr, arg_ = nullptr,
          argLabel_ = nullptr, run_ = nullptr, runLabel_ = nullptr, mask_ = nullptr, icon_ = nullptr,
-         hotKey_ = nullptr;
+         hotKey_ = nullptr, preview_ = nullptr;
+    Win::UniqueIcon previewIcon_; // the preview's; the static control does not own it
+    std::vector<std::optional<Win::UniqueIcon>> commandIcons_; // taken when a row is first drawn
 };
 
 } // namespace

@@ -10,6 +10,7 @@
 #include <windowsx.h>
 
 #include <set>
+#include <utility>
 
 using namespace MenuEditor;
 
@@ -169,7 +170,7 @@ bool MenuEditorPage::EditProperties(Place place) {
         SetNote("Choose an item first.");
         return false;
     }
-    const ItemDialogContext context{working_, place.menu, program_.commandTable, font_};
+    const ItemDialogContext context{working_, place, program_.commandTable, font_};
     std::optional<MenuItemRec> fields =
         EditItem(::GetAncestor(tree_, GA_ROOT), working_.pool[static_cast<std::size_t>(slot)], context);
     if (!fields)
@@ -285,9 +286,7 @@ void MenuEditorPage::Tree_Expanding(const NMTREEVIEWW& info) {
 }
 
 // An item dropped on an item takes its place; dropped on a menu it goes last there.
-void MenuEditorPage::Tree_Drop(POINT point) {
-    const Place from = *dragged_;
-    dragged_.reset();
+void MenuEditorPage::Tree_Drop(Place from, POINT point) {
     TreeView_SelectDropTarget(tree_, nullptr);
     TVHITTESTINFO hit{};
     hit.pt = point;
@@ -321,15 +320,16 @@ LRESULT CALLBACK MenuEditorPage::TreeProc(HWND hwnd, UINT message, WPARAM wParam
         break;
     case WM_LBUTTONUP:
         if (self->dragged_) {
+            // Taken before the capture goes: losing it gives the drag up.
+            const Place from = *std::exchange(self->dragged_, std::nullopt);
             ::ReleaseCapture();
-            if (self->dragged_)
-                self->Tree_Drop({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
+            self->Tree_Drop(from, {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)});
             return 0;
         }
         break;
     case WM_CAPTURECHANGED:
         if (self->dragged_ && reinterpret_cast<HWND>(lParam) != hwnd) {
-            // Dropped by WM_LBUTTONUP (which took the place first) or given up (Escape, another window).
+            // Given up: Escape, or another window took the mouse.
             self->dragged_.reset();
             TreeView_SelectDropTarget(hwnd, nullptr);
         }

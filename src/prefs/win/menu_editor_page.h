@@ -64,7 +64,7 @@ private:
     void cmdTryIt_Click();
     LRESULT Tree_EndLabelEdit(const NMTVDISPINFOW& info);
     void Tree_Expanding(const NMTREEVIEWW& info);
-    void Tree_Drop(POINT point);
+    void Tree_Drop(MenuEditor::Place from, POINT point);
 
     Program& program_;
     const DialogFont& font_;

@@ -1,11 +1,13 @@
-// The Menu Editor page as a user works it: a menu and a program item made through the
-// tree and the item dialog reach TvMenus.ini on OK; a deleted and a moved item reach it
-// on OK and not on Cancel; the item dialog refuses an empty label beside the field; and
-// the editor with a menu three levels deep, and the dialog, on screen.
+// The Menu Editor page as a user works it: a menu of a program, a folder and a sub-menu
+// made through the tree and the item dialog reaches TvMenus.ini on OK and opens and
+// launches from a hotspot; deleted, moved and dragged items reach the file on OK and not
+// on Cancel; Try It shows the menu as edited; the item dialog greys what a type does not
+// use and refuses an empty label beside the field; and the screens, looked at.
 #include "harness/dialogs.h"
 #include "harness/failure_screenshots.h"
 #include "harness/input.h"
 #include "harness/menu_files.h"
+#include "harness/menu_window.h"
 #include "harness/preferences.h"
 #include "harness/program_folder.h"
 #include "harness/screen.h"
@@ -25,7 +27,12 @@ class MenuEditorPage : public ::testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(folder.ready());
-        folder.WriteSettings(HotspotSettings({}));
+        // A left click on the desktop opens "Office", a menu the editor makes.
+        TestHotspot office;
+        office.target = "Office";
+        office.left = 240;
+        office.top = 160;
+        folder.WriteSettings(HotspotSettings({office}));
         TestItem tools = Item("Tools", 3, "Tools");
         TestItem games = Item("Games", 3, "Games");
         folder.WriteMenus(MenuFileText({{"Main", {Item("A", 0, "notepad.exe"), Item("B", 0, "notepad.exe"),
@@ -89,6 +96,51 @@ protected:
         return Win::Narrow(value);
     }
 
+    // Adds an item to the selected row's menu through the dialog: the type chosen with the
+    // keys (Down from "Filename"), then the fields typed; a Menu Name item takes the
+    // menu from the list with the mouse.
+    void AddItemThroughDialog(HWND window, int typeDowns, const std::string& label, const std::string& path,
+                              const std::string& arg = "", const std::string& start = "",
+                              const std::string& screenshot = "") {
+        ASSERT_TRUE(ClickButton(window, "Add &Item"));
+        std::optional<WindowInfo> dialog = WaitForItemDialog();
+        ASSERT_TRUE(dialog);
+        for (int down = 0; down < typeDowns; ++down)
+            PressKey(VK_DOWN);
+        SetText(FieldOf(dialog->hwnd, "&Label:"), label);
+        if (typeDowns == 3) { // "Menu Name": the second of the other menus' names
+            std::optional<WindowInfo> list = ListOf(dialog->hwnd);
+            ASSERT_TRUE(list && Click(list->rect.left + 20, list->rect.top + 6));
+            PressKey(VK_DOWN);
+            ASSERT_TRUE(WaitUntil([&] { return ControlText(FieldOf(dialog->hwnd, "&Path:")) == path; }, 10s));
+        } else {
+            SetText(FieldOf(dialog->hwnd, "&Path:"), path);
+        }
+        if (!arg.empty())
+            SetText(FieldOf(dialog->hwnd, typeDowns == 2 ? "Second f&older:" : "&Arguments:"), arg);
+        if (!start.empty())
+            SetText(FieldOf(dialog->hwnd, "Start &folder:"), start);
+        if (!screenshot.empty()) {
+            EXPECT_TRUE(WaitForSteadyImage(dialog->hwnd));
+            EXPECT_TRUE(SaveNamedScreenshot(screenshot));
+        }
+        ASSERT_TRUE(PressButton(dialog->hwnd, "OK"));
+        ASSERT_TRUE(WaitForWindowGone(dialog->hwnd, 10s)) << DialogText(dialog->hwnd);
+    }
+
+    static std::optional<WindowInfo> ListOf(HWND dialog) {
+        for (const WindowInfo& child : ChildWindows(dialog))
+            if (child.className == "ListBox")
+                return child;
+        return std::nullopt;
+    }
+
+    // The visible rows of the tree stand one item height apart from its top.
+    static POINT RowPoint(const WindowInfo& tree, int row, int indent) {
+        const int height = static_cast<int>(TreeView_GetItemHeight(tree.hwnd));
+        return {tree.rect.left + indent, tree.rect.top + 2 + row * height + height / 2};
+    }
+
     std::string MainLabels() const {
         std::string labels;
         for (int position = 0; position < 6; ++position)
@@ -109,7 +161,9 @@ using ItemDialog = MenuEditorPage;
 
 } // namespace
 
-TEST_F(MenuEditor, AMenuWithAProgramItemMadeOnThePageIsInTheMenuFileAfterOK) {
+TEST_F(MenuEditor, AMenuOfAProgramAFolderAndASubMenuMadeOnThePageIsSavedOnOKAndOpensAndLaunches) {
+    TempFolder work;
+    work.WriteBytes("Report.txt", "x");
     HWND window = OpenEditor();
     ASSERT_TRUE(window);
     ASSERT_TRUE(ClickButton(window, "Add &Menu"));
@@ -123,23 +177,40 @@ TEST_F(MenuEditor, AMenuWithAProgramItemMadeOnThePageIsInTheMenuFileAfterOK) {
     PressKey(VK_RETURN);
     ASSERT_TRUE(WaitUntil([&] { return !::IsWindow(edit); }, 10s));
 
-    ASSERT_TRUE(ClickButton(window, "Add &Item"));
-    std::optional<WindowInfo> dialog = WaitForItemDialog();
-    ASSERT_TRUE(dialog);
-    SetText(FieldOf(dialog->hwnd, "&Label:"), "Write");
-    SetText(FieldOf(dialog->hwnd, "&Path:"), "C:\\windows\\notepad.exe");
-    SetText(FieldOf(dialog->hwnd, "&Arguments:"), "notes.txt");
-    ASSERT_TRUE(PressButton(dialog->hwnd, "OK"));
+    ASSERT_NO_FATAL_FAILURE(AddItemThroughDialog(window, 0, "Write", SystemFile("cmd.exe"), "/c cd > started.txt",
+                                                 work.path(), "item-dialog-filename"));
+    ASSERT_NO_FATAL_FAILURE(AddItemThroughDialog(window, 2, "Papers", work.path() + "\\", "", "",
+                                                 "item-dialog-folder-path"));
+    ASSERT_NO_FATAL_FAILURE(AddItemThroughDialog(window, 3, "More", "Tools"));
     ASSERT_TRUE(PressOK(window));
 
     EXPECT_TRUE(WaitUntil([&] { return MenuValue("MENUS", "NAME-4") == "Office"; }, 10s));
-    EXPECT_EQ(MenuValue("MENU-4", "LABEL-0"), "Write");
-    EXPECT_EQ(MenuValue("MENU-4", "TYPE-0"), "0");
-    EXPECT_EQ(MenuValue("MENU-4", "PATH-0"), "C:\\windows\\notepad.exe");
-    EXPECT_EQ(MenuValue("MENU-4", "ARG-0"), "notes.txt");
-    EXPECT_EQ(MenuValue("MENU-4", "HOTKEY-0"), "0");
-    EXPECT_EQ(MenuValue("MENU-4", "LABEL-1"), "?");
+    const std::pair<const char*, std::string> written[] = {
+        {"LABEL-0", "Write"}, {"TYPE-0", "0"}, {"ARG-0", "/c cd > started.txt"}, {"STARTPATH-0", work.path()},
+        {"HOTKEY-0", "0"},    {"TYPE-1", "2"}, {"PATH-1", work.path() + "\\"},  {"LABEL-2", "More"},
+        {"TYPE-2", "3"},      {"PATH-2", "Tools"}, {"LABEL-3", "?"}};
+    for (const auto& [key, value] : written)
+        EXPECT_EQ(MenuValue("MENU-4", key), value) << key;
     EXPECT_EQ(MainLabels(), "A B C Tools ? ? ") << "the other menus stay as they were";
+
+    // The hotspot now finds the menu: the folder lists its file, the sub-menu opens, the program starts.
+    ASSERT_TRUE(Click(600, 400));
+    std::optional<WindowInfo> office = WaitForMenuWindow(tarvex.processId());
+    ASSERT_TRUE(office);
+    EXPECT_EQ(office->title, "Office");
+    const std::pair<int, std::string> subMenus[] = {
+        {2, work.path().substr(work.path().find_last_of('\\') + 1)}, {3, "Tools"}};
+    for (const auto& [item, title] : subMenus) {
+        POINT at = PlainItemPoint(office->rect, item);
+        ASSERT_TRUE(Click(at.x, at.y));
+        EXPECT_TRUE(WaitUntil([&, title = title] { return MenuWindowTitled(tarvex.processId(), title).has_value(); },
+                              10s))
+            << "item " << item << " did not open " << title;
+    }
+    EXPECT_TRUE(SaveNamedScreenshot("menu-editor-made-menu-open"));
+    POINT write = PlainItemPoint(office->rect, 1);
+    ASSERT_TRUE(Click(write.x, write.y));
+    EXPECT_TRUE(WaitUntil([&] { return work.Exists("started.txt"); }, 20s)) << "the program item did not start";
 }
 
 TEST_F(MenuEditor, ADeletedAndAMovedItemReachTheFileOnOKButNotOnCancel) {
@@ -157,6 +228,30 @@ TEST_F(MenuEditor, ADeletedAndAMovedItemReachTheFileOnOKButNotOnCancel) {
         ASSERT_TRUE(PressOK(window));
         EXPECT_TRUE(WaitUntil([&] { return MainLabels() == "C A Tools ? ? ? "; }, 10s)) << MainLabels();
     }
+}
+
+TEST_F(MenuEditor, AnItemDraggedOntoAnotherTakesItsPlaceAndTryItShowsTheMenuAsEdited) {
+    HWND window = OpenEditor();
+    ASSERT_TRUE(window);
+    ASSERT_TRUE(SelectRow(window, {VK_DOWN, VK_DOWN})); // Main, A, B
+    ASSERT_TRUE(ClickButton(window, "&Delete"));        // A, C, Tools are left
+    std::optional<WindowInfo> tree = VisibleControl(window, "SysTreeView32", "");
+    ASSERT_TRUE(tree);
+    const POINT c = RowPoint(*tree, 2, 44);
+    const POINT a = RowPoint(*tree, 1, 44);
+    ASSERT_TRUE(Drag(c.x, c.y, a.x, a.y, [] { SaveNamedScreenshot("menu-editor-drag"); }));
+    ASSERT_TRUE(SelectRow(window, {}));                 // Main
+    ASSERT_TRUE(ClickButton(window, "&Try It"));
+    std::optional<WindowInfo> menu = WaitForMenuWindow(tarvex.processId());
+    ASSERT_TRUE(menu) << "Try It opened no menu";
+    EXPECT_EQ(menu->title, "Main");
+    EXPECT_EQ(menu->rect.bottom - menu->rect.top, kPlainTitleHeight + 3 * kPlainButtonHeight)
+        << "the menu shows the working copy: three items";
+    EXPECT_TRUE(SaveNamedScreenshot("menu-editor-try-it"));
+    PressKey(VK_ESCAPE);
+    EXPECT_TRUE(WaitForMenuCount(tarvex.processId(), 0));
+    ASSERT_TRUE(PressOK(window));
+    EXPECT_TRUE(WaitUntil([&] { return MainLabels() == "C A Tools ? ? ? "; }, 10s)) << MainLabels();
 }
 
 TEST_F(MenuEditor, AMenuThreeLevelsDeepOnTheScreen) {
@@ -190,6 +285,35 @@ TEST_F(ItemDialog, OffersTheOtherMenusAndRefusesAnEmptyLabelBesideIt) {
     EXPECT_EQ(::SendMessageW(list, LB_GETCURSEL, 0, 0), 0) << "the menu it opens is chosen";
     EXPECT_TRUE(WaitForSteadyImage(dialog->hwnd));
     EXPECT_TRUE(SaveNamedScreenshot("item-dialog-menu-name"));
+
+    // Each type with what it uses: the start folder belongs to a program alone, the list
+    // to commands and menus.
+    HWND start = FieldOf(dialog->hwnd, "Start &folder:");
+    const struct {
+        WORD key;
+        bool usesStart, usesList;
+        const char* argumentsLabel;
+        const char* screenshot;
+    } types[] = {{VK_HOME, true, false, "&Arguments:", ""},
+                 {VK_DOWN, false, true, "&Arguments:", "item-dialog-command-name"},
+                 {VK_DOWN, false, false, "Second f&older:", ""},
+                 {VK_END, false, false, "&Arguments:", "item-dialog-task-list"}};
+    for (const auto& type : types) {
+        PressKey(type.key); // the type list has the focus
+        EXPECT_TRUE(WaitUntil(
+            [&] {
+                return (::IsWindowEnabled(start) != FALSE) == type.usesStart &&
+                       (::IsWindowVisible(list) != FALSE) == type.usesList &&
+                       FieldOf(dialog->hwnd, type.argumentsLabel) != nullptr;
+            },
+            10s))
+            << type.key;
+        if (*type.screenshot) {
+            EXPECT_TRUE(WaitForSteadyImage(dialog->hwnd));
+            EXPECT_TRUE(SaveNamedScreenshot(type.screenshot));
+        }
+    }
+    PressKey(VK_UP); // back to "Menu Name"
 
     SetText(FieldOf(dialog->hwnd, "&Label:"), "");
     std::optional<WindowInfo> ok = std::nullopt;

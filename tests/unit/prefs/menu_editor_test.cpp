@@ -133,6 +133,10 @@ TEST(MenuEditor, ItemOperationsKeepTheChainsWhole) {
          {"X", "C"}, {1, 1}},
         {"move down the same menu", [](MenuTable& t) { return MoveItem(t, {0, 0}, 0, 2); }, {"B", "C", "A", "Go"},
          {"X"}, {0, 2}},
+        {"drop two", [](MenuTable& t) { return InsertItems(t, 1, 0, {DroppedItem("C:\\a.lnk", false), DroppedItem("D:\\", true)}); },
+         {"A", "B", "C", "Go"}, {"a", "D:", "X"}, {1, 0}},
+        {"drop nothing", [](MenuTable& t) { return InsertItems(t, 1, 0, {}); }, {"A", "B", "C", "Go"}, {"X"}, {},
+         true},
         {"move into the menu it opens", [](MenuTable& t) { return MoveItem(t, {0, 3}, 1, 0); },
          {"A", "B", "C", "Go"}, {"X"}, {}, true},
     };
@@ -210,4 +214,58 @@ TEST(MenuEditor, SameMenusComparesWhatTheFileWouldHoldNotThePoolLayout) {
     EXPECT_TRUE(SameMenus(table, original));
     ASSERT_TRUE(RenameMenu(table, 0, "Start").Done());
     EXPECT_FALSE(SameMenus(table, original));
+}
+
+TEST(MenuEditor, EachTypeUsesItsOwnFieldsAndTheMaskOnlyWithTheUserFilter) {
+    using enum ItemField;
+    struct Case {
+        MenuItemRec fields;
+        std::vector<ItemField> used;
+    } cases[] = {
+        {Item(kItemFilename, "", ""), {Path, PathBrowse, StartFolder, Arguments, RunState, Icon, HotKey}},
+        {Item(kItemCommandName, "", ""), {Path, Choices, Icon, HotKey}},
+        {Item(kItemFolderPath, "", "", 1), {Path, PathBrowse, Arguments, RunState, Icon, HotKey}},
+        {Item(kItemFolderPath, "", "", kUserSpecifiedFilter), {Path, PathBrowse, Arguments, RunState, Mask, Icon, HotKey}},
+        {Item(kItemMenuName, "", ""), {Path, Choices, Icon, HotKey}},
+        {Item(kItemTaskList, "", ""), {Icon, HotKey}},
+    };
+    for (const Case& c : cases) {
+        std::vector<ItemField> used;
+        for (ItemField field : {Path, PathBrowse, Choices, StartFolder, Arguments, RunState, Mask, Icon, HotKey})
+            if (FieldUsed(c.fields, field))
+                used.push_back(field);
+        EXPECT_EQ(used, c.used) << "type " << int{c.fields.TYPE};
+    }
+}
+
+TEST(MenuEditor, AHotKeyOfAnotherItemOfTheMenuIsNamedAndDroppedPathsBecomeItems) {
+    MenuTable table = Fixture();
+    table.pool[DataManager::FindItem(table, 0, 1)].HOTKEY = "b";
+    EXPECT_EQ(HotKeyClash(table, {0, 0}, "B").value_or(""),
+              "'B' in this menu has this hot key too; the key chooses the first of them.");
+    for (const char* free : {"0", "", "c"})
+        EXPECT_FALSE(HotKeyClash(table, {0, 0}, free)) << free;
+    EXPECT_FALSE(HotKeyClash(table, {0, 1}, "b")) << "its own key";
+    EXPECT_FALSE(HotKeyClash(table, {1, 0}, "b")) << "another menu's";
+
+    struct Case {
+        const char* path;
+        bool folder;
+        std::uint8_t type;
+        const char* label;
+        const char* itemPath;
+    } cases[] = {
+        {"C:\\Tools\\Editor.lnk", false, kItemFilename, "Editor", "C:\\Tools\\Editor.lnk"},
+        {"C:\\Tools\\.profile", false, kItemFilename, ".profile", "C:\\Tools\\.profile"},
+        {"C:\\Docs\\", true, kItemFolderPath, "Docs", "C:\\Docs\\"},
+        {"C:\\My.Docs", true, kItemFolderPath, "My.Docs", "C:\\My.Docs\\"},
+        {"E:\\", true, kItemFolderPath, "E:", "E:\\"},
+    };
+    for (const Case& c : cases) {
+        const MenuItemRec item = DroppedItem(c.path, c.folder);
+        EXPECT_EQ(item.TYPE, c.type) << c.path;
+        EXPECT_EQ(item.LABEL, c.label) << c.path;
+        EXPECT_EQ(item.PATH, c.itemPath) << c.path;
+        EXPECT_TRUE(ItemProblems(table, 0, item).empty()) << c.path;
+    }
 }
