@@ -1,5 +1,5 @@
 // The Menu Editor page's own part: the menus and their items as a tree, the buttons that
-// change them, drag and drop of items, and "Try It". It edits a working copy of the
+// change them, drag and drop of items and of files from the shell, and "Try It". It edits a working copy of the
 // program's menus; Apply puts the copy in their place and writes the menu file.
 #pragma once
 
@@ -11,6 +11,7 @@
 #include <windows.h>
 
 #include <commctrl.h>
+#include <shellapi.h>
 
 #include <functional>
 #include <optional>
@@ -65,6 +66,7 @@ private:
     LRESULT Tree_EndLabelEdit(const NMTVDISPINFOW& info);
     void Tree_Expanding(const NMTREEVIEWW& info);
     void Tree_Drop(MenuEditor::Place from, POINT point);
+    void Tree_DropFiles(HDROP drop);
 
     Program& program_;
     const DialogFont& font_;
