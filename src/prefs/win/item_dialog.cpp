@@ -316,29 +316,19 @@ private:
             SetText(label_, label);
     }
 
+    // The path chosen, and the label when it has none yet, as a dropped file would have them.
     void PathBrowse_Click() {
         const std::string current = TextOf(path_);
-        std::optional<std::string> chosen;
-        if (Type() == kItemFolderPath) {
-            chosen = PickFolder(hwnd_, current);
-            if (chosen && !chosen->ends_with('\\'))
-                *chosen += '\\'; // a folder item's path ends in a backslash
-        } else {
-            chosen = PickFile(hwnd_, current, L"Programs and documents", L"*.*");
-        }
+        const bool folder = Type() == kItemFolderPath;
+        const std::optional<std::string> chosen =
+            folder ? PickFolder(hwnd_, current) : PickFile(hwnd_, current, L"Programs and documents", L"*.*");
         if (!chosen)
             return;
-        SetText(path_, *chosen);
+        const MenuItemRec picked = MenuEditor::DroppedItem(*chosen, folder);
+        SetText(path_, picked.PATH);
         const std::string label = TextOf(label_);
-        if (label.empty() || label == MenuEditor::kNewItemLabel) {
-            std::string_view whole = *chosen;
-            if (whole.ends_with('\\'))
-                whole.remove_suffix(1);
-            std::string name(whole.substr(whole.find_last_of('\\') + 1));
-            if (const auto dot = name.find_last_of('.'); Type() != kItemFolderPath && dot != std::string::npos && dot > 0)
-                name.resize(dot);
-            SetText(label_, name);
-        }
+        if (label.empty() || label == MenuEditor::kNewItemLabel)
+            SetText(label_, picked.LABEL);
     }
 
     // The item as the fields stand.

@@ -1,8 +1,8 @@
 // The properties of one menu item in a dialog box of their own: the type, the label,
 // the path with a picker that fits the type (a file, a folder, the internal commands or
 // the menus), start folder, arguments, run state or file filter, file types, icon and
-// hot key, with the icon shown as the menu will show it. OK keeps the dialog open while a field is refused, with the reason in red
-// beside it.
+// hot key, with the icon shown as the menu will show it. OK keeps the dialog open while
+// a field is refused, with the reason in red beside it.
 #pragma once
 
 #include "desktop/command_table.h"

@@ -7,11 +7,8 @@
 #include "win/text_convert.h"
 
 #include <commctrl.h>
-#include <shellapi.h>
-#include <shlobj.h>
 #include <windowsx.h>
 
-#include <cstddef>
 #include <set>
 #include <utility>
 
@@ -36,43 +33,10 @@ constexpr UINT kRefillMessage = WM_APP + 21;
 constexpr UINT_PTR kSubclassId = 1;
 constexpr COLORREF kNoteColour = RGB(192, 0, 0);
 
-void FinishDrop(HDROP drop) {
-    ::DragFinish(drop);
-}
-using UniqueDrop = Win::UniqueHandle<HDROP, FinishDrop>;
-
-// Whether the handle is a drop block of this process whose list of paths ends inside it.
-// Another process can post the message with a handle of its own, which means nothing
-// here, or something else.
-bool WholeDropBlock(HDROP drop) {
-    const SIZE_T size = ::GlobalSize(drop);
-    const auto* block = static_cast<const std::byte*>(::GlobalLock(drop));
-    if (!block)
-        return false;
-    const auto& header = *reinterpret_cast<const DROPFILES*>(block);
-    bool whole = false;
-    if (size >= sizeof(DROPFILES) && header.pFiles >= sizeof(DROPFILES) && header.pFiles < size) {
-        const SIZE_T unit = header.fWide ? sizeof(wchar_t) : 1;
-        // The list ends with an empty path: two zero characters in a row.
-        bool previousZero = false;
-        for (SIZE_T at = header.pFiles; at + unit <= size && !whole; at += unit) {
-            const bool zero = unit == 1 ? block[at] == std::byte{0}
-                                        : block[at] == std::byte{0} && block[at + 1] == std::byte{0};
-            whole = zero && previousZero;
-            previousZero = zero;
-        }
-    }
-    ::GlobalUnlock(drop);
-    return whole;
-}
-
-// The files and folders of a drop from the shell, as items.
-std::vector<MenuItemRec> DroppedItems(HDROP drop) {
+// The files and folders dropped, as items.
+std::vector<MenuItemRec> DroppedItems(const std::vector<std::wstring>& paths) {
     std::vector<MenuItemRec> items;
-    const UINT count = ::DragQueryFileW(drop, 0xFFFFFFFF, nullptr, 0);
-    for (UINT file = 0; file < count; ++file) {
-        std::wstring path(::DragQueryFileW(drop, file, nullptr, 0) + 1, L'\0');
-        path.resize(::DragQueryFileW(drop, file, path.data(), static_cast<UINT>(path.size())));
+    for (const std::wstring& path : paths) {
         const DWORD attributes = ::GetFileAttributesW(path.c_str());
         const bool folder = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
         items.push_back(DroppedItem(Win::Narrow(path), folder));
@@ -91,8 +55,15 @@ MenuEditorPage::MenuEditorPage(HWND panel, RECT room, const DialogFont& font, Pr
                       TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT | TVS_SHOWSELALWAYS | TVS_EDITLABELS |
                           WS_BORDER | WS_TABSTOP | WS_VSCROLL,
                       {room.left, room.top, buttonsLeft - font.X(kGap), noteTop - font.Y(kGap)}, kTreeId);
+    // Above the room's group box, which a window of another process finding the window
+    // under a point (a drag from the shell) does not see through.
+    ::SetWindowPos(tree_, HWND_TOP, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     ::SetWindowSubclass(tree_, &MenuEditorPage::TreeProc, kSubclassId, reinterpret_cast<DWORD_PTR>(this));
-    ::DragAcceptFiles(tree_, TRUE);
+    fileDrop_ = std::make_unique<FileDropTarget>(
+        tree_, [this](const std::vector<std::wstring>& paths, POINT screen) { Tree_DropFiles(paths, screen); },
+        [this](std::optional<POINT> screen) {
+            TreeView_SelectDropTarget(tree_, screen ? RowAt(*screen) : nullptr);
+        });
     int top = room.top;
     for (int id = kAddMenuId; id <= kTryItId; ++id) {
         const std::wstring text = Win::Widen(kButtons[static_cast<std::size_t>(id - kAddMenuId)]);
@@ -353,17 +324,20 @@ void MenuEditorPage::Tree_Drop(Place from, POINT point) {
 
 // Files dropped from the shell: before the item they fall on, last in the menu they fall
 // on, or last in the selected row's menu when they fall on no row.
-void MenuEditorPage::Tree_DropFiles(HDROP drop) {
-    POINT point{};
-    ::DragQueryPoint(drop, &point);
+HTREEITEM MenuEditorPage::RowAt(POINT screen) const {
     TVHITTESTINFO hit{};
-    hit.pt = point;
-    Place target = PlaceOf(TreeView_HitTest(tree_, &hit));
+    hit.pt = screen;
+    ::ScreenToClient(tree_, &hit.pt);
+    return TreeView_HitTest(tree_, &hit);
+}
+
+void MenuEditorPage::Tree_DropFiles(const std::vector<std::wstring>& paths, POINT screen) {
+    Place target = PlaceOf(RowAt(screen));
     if (target.menu < 0)
         target = {Selected().menu, -1};
     const std::int32_t position =
         target.IsMenu() ? DataManager::LastItemPosition(working_, target.menu) + 1 : target.position;
-    Done(InsertItems(working_, target.menu, position, DroppedItems(drop)));
+    Done(InsertItems(working_, target.menu, position, DroppedItems(paths)));
 }
 
 LRESULT CALLBACK MenuEditorPage::TreeProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
@@ -373,14 +347,9 @@ LRESULT CALLBACK MenuEditorPage::TreeProc(HWND hwnd, UINT message, WPARAM wParam
     case kRefillMessage:
         self->Fill(self->Selected());
         return 0;
-    case WM_DROPFILES: {
-        auto* handle = reinterpret_cast<HDROP>(wParam);
-        if (!WholeDropBlock(handle))
-            return 0;
-        const UniqueDrop drop(handle);
-        self->Tree_DropFiles(drop.get());
-        return 0;
-    }
+    case WM_DESTROY:
+        self->fileDrop_.reset(); // registered on the window: revoked while it is there
+        break;
     case WM_MOUSEMOVE:
         if (self->dragged_) {
             TVHITTESTINFO hit{};

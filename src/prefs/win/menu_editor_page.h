@@ -7,13 +7,14 @@
 #include "menuwindow/win/open_menus.h"
 #include "prefs/menu_editor.h"
 #include "prefs/win/dialog_font.h"
+#include "prefs/win/file_drop_target.h"
 
 #include <windows.h>
 
 #include <commctrl.h>
-#include <shellapi.h>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -51,6 +52,7 @@ private:
 
     MenuEditor::Place Selected() const;
     MenuEditor::Place PlaceOf(HTREEITEM item) const;
+    HTREEITEM RowAt(POINT screen) const;
     HTREEITEM AddRow(HTREEITEM parent, const std::wstring& text, MenuEditor::Place place, bool children);
     void AddItemRows(HTREEITEM parent, std::int32_t menu);
     void Fill(MenuEditor::Place select);
@@ -66,7 +68,7 @@ private:
     LRESULT Tree_EndLabelEdit(const NMTVDISPINFOW& info);
     void Tree_Expanding(const NMTREEVIEWW& info);
     void Tree_Drop(MenuEditor::Place from, POINT point);
-    void Tree_DropFiles(HDROP drop);
+    void Tree_DropFiles(const std::vector<std::wstring>& paths, POINT screen);
 
     Program& program_;
     const DialogFont& font_;
@@ -76,6 +78,7 @@ private:
     HWND note_ = nullptr;
     std::vector<MenuEditor::Place> places_; // a row's lParam indexes this
     std::optional<MenuEditor::Place> dragged_;
+    std::unique_ptr<FileDropTarget> fileDrop_;
     // "Try It": a real menu window over a copy of the working menus, apart from the program's.
     MenuTable tryMenus_;
     OpenMenus tryOpenMenus_;

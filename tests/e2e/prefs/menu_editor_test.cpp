@@ -1,6 +1,7 @@
 // The Menu Editor page as a user works it: a menu of a program, a folder and a sub-menu
 // made through the tree and the item dialog reaches TvMenus.ini on OK and opens and
-// launches from a hotspot; deleted, moved and dragged items reach the file on OK and not
+// launches from a hotspot; deleted, moved and dragged items, and files dragged from the
+// shell, reach the file on OK and not
 // on Cancel; Try It shows the menu as edited; the item dialog greys what a type does not
 // use and refuses an empty label beside the field; and the screens, looked at.
 #include "harness/dialogs.h"
@@ -11,6 +12,7 @@
 #include "harness/preferences.h"
 #include "harness/program_folder.h"
 #include "harness/screen.h"
+#include "harness/shell_drag.h"
 #include "harness/tarvex.h"
 #include "harness/wait.h"
 #include "win/text_convert.h"
@@ -18,11 +20,9 @@
 #include <gtest/gtest.h>
 
 #include <commctrl.h>
-#include <shlobj.h>
 
 #include <chrono>
 #include <cstdio>
-#include <cstring>
 
 namespace {
 
@@ -335,27 +335,27 @@ TEST_F(ItemDialog, OffersTheOtherMenusAndRefusesAnEmptyLabelBesideIt) {
     EXPECT_EQ(MainLabels(), "A B C Tools ? ? ");
 }
 
-TEST_F(MenuEditor, FilesDroppedByAnotherProcessWithAHandleOfItsOwnAreIgnored) {
+TEST_F(MenuEditor, AFileAndAFolderDraggedFromTheShellOntoAnItemBecomeItemsBeforeIt) {
     TempFolder work;
     work.WriteBytes("Letter.txt", "x");
     HWND window = OpenEditor();
     ASSERT_TRUE(window);
+    ASSERT_TRUE(SelectRow(window, {}));
     std::optional<WindowInfo> tree = VisibleControl(window, "SysTreeView32", "");
     ASSERT_TRUE(tree);
-    // A drop block of this process, as the shell makes it, posted to the tree: its handle
-    // means nothing in the program's memory.
-    const std::wstring paths = Win::Widen(work.File("Letter.txt")) + L'\0' + L'\0';
-    HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE | GMEM_ZEROINIT, sizeof(DROPFILES) + paths.size() * sizeof(wchar_t));
-    ASSERT_TRUE(memory);
-    auto* drop = static_cast<DROPFILES*>(::GlobalLock(memory));
-    drop->pFiles = sizeof(DROPFILES);
-    drop->fWide = TRUE;
-    std::memcpy(drop + 1, paths.data(), paths.size() * sizeof(wchar_t));
-    ::GlobalUnlock(memory);
-    ASSERT_TRUE(::PostMessageW(tree->hwnd, WM_DROPFILES, reinterpret_cast<WPARAM>(memory), 0));
-    ASSERT_TRUE(PressOK(window)) << "the program did not survive the drop";
-    ::GlobalFree(memory);
-    EXPECT_EQ(MainLabels(), "A B C Tools ? ? ");
+    const POINT b = RowPoint(*tree, 2, 44); // Main, A, B
+    HTREEITEM rowB = TreeView_GetFirstVisible(tree->hwnd);
+    for (int row = 0; row < 2; ++row)
+        rowB = TreeView_GetNextVisible(tree->hwnd, rowB);
+    ASSERT_TRUE(DragFilesFromShell({work.File("Letter.txt"), work.path()}, {700, 700}, b,
+                                   [&] { return TreeView_GetDropHilight(tree->hwnd) == rowB; }))
+        << "the tree did not show where the files go, or did not take them";
+    ASSERT_TRUE(PressOK(window));
+    const std::string folderName = work.path().substr(work.path().find_last_of('\\') + 1);
+    EXPECT_TRUE(WaitUntil([&] { return MainLabels() == "A Letter " + folderName + " B C Tools "; }, 10s))
+        << MainLabels();
+    EXPECT_EQ(MenuValue("MENU-1", "PATH-1"), work.File("Letter.txt"));
+    EXPECT_EQ(MenuValue("MENU-1", "TYPE-2"), "2");
 }
 
 // How long the page takes with a menu of 5,000 items: printed, not asserted; the README

@@ -133,7 +133,10 @@ TEST(MenuEditor, ItemOperationsKeepTheChainsWhole) {
          {"X", "C"}, {1, 1}},
         {"move down the same menu", [](MenuTable& t) { return MoveItem(t, {0, 0}, 0, 2); }, {"B", "C", "A", "Go"},
          {"X"}, {0, 2}},
-        {"drop two", [](MenuTable& t) { return InsertItems(t, 1, 0, {DroppedItem("C:\\a.lnk", false), DroppedItem("D:\\", true)}); },
+        {"drop two",
+         [](MenuTable& t) {
+             return InsertItems(t, 1, 0, {DroppedItem("C:\\a.lnk", false), DroppedItem("D:\\", true)});
+         },
          {"A", "B", "C", "Go"}, {"a", "D:", "X"}, {1, 0}},
         {"drop nothing", [](MenuTable& t) { return InsertItems(t, 1, 0, {}); }, {"A", "B", "C", "Go"}, {"X"}, {},
          true},
@@ -225,7 +228,8 @@ TEST(MenuEditor, EachTypeUsesItsOwnFieldsAndTheMaskOnlyWithTheUserFilter) {
         {Item(kItemFilename, "", ""), {Path, PathBrowse, StartFolder, Arguments, RunState, Icon, HotKey}},
         {Item(kItemCommandName, "", ""), {Path, Choices, Icon, HotKey}},
         {Item(kItemFolderPath, "", "", 1), {Path, PathBrowse, Arguments, RunState, Icon, HotKey}},
-        {Item(kItemFolderPath, "", "", kUserSpecifiedFilter), {Path, PathBrowse, Arguments, RunState, Mask, Icon, HotKey}},
+        {Item(kItemFolderPath, "", "", kUserSpecifiedFilter),
+         {Path, PathBrowse, Arguments, RunState, Mask, Icon, HotKey}},
         {Item(kItemMenuName, "", ""), {Path, Choices, Icon, HotKey}},
         {Item(kItemTaskList, "", ""), {Icon, HotKey}},
     };
