@@ -20,8 +20,6 @@ ListSource SourceOf(std::uint8_t kind) {
     }
 }
 
-namespace {
-
 DisplayEntry EntryOf(const MenuItemRec& item) {
     DisplayEntry entry;
     entry.LABEL = item.LABEL;
@@ -35,6 +33,8 @@ DisplayEntry EntryOf(const MenuItemRec& item) {
     entry.HOTKEY = item.HOTKEY;
     return entry;
 }
+
+namespace {
 
 // The icon index after the last comma, when what follows it is a whole number.
 std::optional<int> TrailingIndex(std::string_view text) {
@@ -154,6 +154,21 @@ std::optional<IconSource> IconSourceOf(const DisplayEntry& entry) {
         return IconSource{WithoutQuotes(path), 0, false};
     }
     return ShellIconSourceOf(entry);
+}
+
+std::string IconPathText(std::string_view file, int index) {
+    std::string text;
+    const bool quoted = file.find(',') != std::string_view::npos;
+    if (quoted)
+        text += '"';
+    text += file;
+    if (quoted)
+        text += '"';
+    if (index != 0) {
+        text += ',';
+        text += std::to_string(index);
+    }
+    return text;
 }
 
 std::optional<IconSource> ShellIconSourceOf(const DisplayEntry& entry) {

@@ -31,6 +31,9 @@ struct DisplayList {
 enum class ListSource { MenuItems, Folder, TaskList, None };
 ListSource SourceOf(std::uint8_t kind);
 
+// The entry a menu item shows as.
+DisplayEntry EntryOf(const MenuItemRec& item);
+
 // The items of menu number menuNumber (1-based), in chain order; none for a number that
 // names no menu (0 included), which is how a window shows an empty menu.
 DisplayList MenuItemsList(const MenuTable& table, int menuNumber);
@@ -74,6 +77,9 @@ struct IconSource {
 
 // None for an item that names no file: an internal command, a menu, the task list.
 std::optional<IconSource> IconSourceOf(const DisplayEntry& entry);
+// The ICONPATH that names an icon of a file: "file", or "file,index"; a file with a comma
+// in its name is quoted, so that the comma is not taken for the index's.
+std::string IconPathText(std::string_view file, int index);
 // The shell's icon for the file or folder that PATH names: also what an item shows when
 // its ICONPATH gives no icon.
 std::optional<IconSource> ShellIconSourceOf(const DisplayEntry& entry);

@@ -7,6 +7,7 @@
 #include "win/text_convert.h"
 
 #include <commctrl.h>
+#include <shlobj.h>
 
 #include <algorithm>
 #include <array>
@@ -40,11 +41,7 @@ constexpr COLORREF kNoteColour = RGB(192, 0, 0);
 
 // The icon an item with these fields shows in its menu; null when it shows none.
 Win::UniqueIcon IconOf(const MenuItemRec& fields, int size) {
-    DisplayEntry entry;
-    entry.TYPE = fields.TYPE;
-    entry.PATH = fields.PATH;
-    entry.ICONPATH = fields.ICONPATH;
-    const std::optional<MenuWindow::IconSource> source = MenuWindow::IconSourceOf(entry);
+    const std::optional<MenuWindow::IconSource> source = MenuWindow::IconSourceOf(MenuWindow::EntryOf(fields));
     return source ? MenuWindow::LoadItemIcon(*source, size) : Win::UniqueIcon{};
 }
 
@@ -275,7 +272,6 @@ private:
             std::optional<Win::UniqueIcon>& icon = commandIcons_[draw.itemID];
             if (!icon) {
                 MenuItemRec row;
-                row.TYPE = kItemCommandName;
                 row.ICONPATH = context_.commands[draw.itemID].icon;
                 icon = IconOf(row, iconSize);
             }
@@ -329,6 +325,34 @@ private:
         const std::string label = TextOf(label_);
         if (label.empty() || label == MenuEditor::kNewItemLabel)
             SetText(label_, picked.LABEL);
+    }
+
+    // The system's icon chooser, on the icon the item shows now (the system's own icons
+    // when it shows none), writes the file and the icon chosen; where the system cannot
+    // show it (Wine), a file is chosen, and its first icon taken.
+    void IconBrowse_Click() {
+        const std::optional<MenuWindow::IconSource> source = MenuWindow::IconSourceOf(MenuWindow::EntryOf(Fields()));
+        std::wstring file = Win::Widen(source ? source->file : std::string());
+        if (file.empty()) {
+            file.resize(MAX_PATH);
+            file.resize(::GetSystemDirectoryW(file.data(), MAX_PATH));
+            file += L"\\shell32.dll";
+        }
+        int index = source ? source->index : 0;
+        const std::string shown = Win::Narrow(file);
+        file.resize(std::max<std::size_t>(file.size(), MAX_PATH) + 1);
+        switch (::PickIconDlg(hwnd_, file.data(), static_cast<UINT>(file.size()), &index)) {
+        case 0: // cancelled
+            return;
+        case 1:
+            file.resize(file.find(L'\0'));
+            SetText(icon_, MenuWindow::IconPathText(Win::Narrow(file), index));
+            return;
+        default:
+            if (std::optional<std::string> chosen = PickFile(hwnd_, shown, L"Icons", L"*.ico;*.exe;*.dll"))
+                SetText(icon_, MenuWindow::IconPathText(*chosen, 0));
+            return;
+        }
     }
 
     // The item as the fields stand.
@@ -424,10 +448,7 @@ private:
                 if (auto folder = PickFolder(hwnd, TextOf(start_)))
                     SetText(start_, *folder);
                 return TRUE;
-            case kIconBrowseId:
-                if (auto icon = PickFile(hwnd, TextOf(icon_), L"Icons", L"*.ico;*.exe;*.dll"))
-                    SetText(icon_, *icon);
-                return TRUE;
+            case kIconBrowseId: IconBrowse_Click(); return TRUE;
             default: return FALSE;
             }
         }

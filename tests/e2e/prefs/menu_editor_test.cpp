@@ -320,6 +320,33 @@ TEST_F(ItemDialog, OffersTheOtherMenusAndRefusesAnEmptyLabelBesideIt) {
     }
     PressKey(VK_UP); // back to "Menu Name"
 
+    // Wine shows no icon chooser: a file of icons is chosen instead, and its first icon shown.
+    HWND icon = FieldOf(dialog->hwnd, "I&con:");
+    ASSERT_TRUE(ClickWindow(::GetWindow(icon, GW_HWNDNEXT)));
+    std::optional<WindowInfo> chooser;
+    ASSERT_TRUE(WaitUntil(
+        [&] {
+            for (const WindowInfo& box : TopLevelWindows(kDialogClass, tarvex.processId()))
+                if (box.visible && box.hwnd != dialog->hwnd)
+                    chooser = box;
+            return chooser.has_value();
+        },
+        10s));
+    HWND name = nullptr;
+    for (const WindowInfo& child : ChildWindows(chooser->hwnd))
+        if (child.className == "Edit" && child.visible)
+            name = child.hwnd;
+    ASSERT_TRUE(name) << "no file name field in " << chooser->title;
+    SetText(name, SystemFile("notepad.exe"));
+    ASSERT_TRUE(PressButton(chooser->hwnd, "Open"));
+    EXPECT_TRUE(WaitUntil([&] { return ControlText(icon).ends_with("\\notepad.exe"); }, 10s)) << ControlText(icon);
+    HWND preview = nullptr;
+    for (const WindowInfo& child : ChildWindows(dialog->hwnd))
+        if (child.className == "Static" && (::GetWindowLongW(child.hwnd, GWL_STYLE) & SS_TYPEMASK) == SS_ICON)
+            preview = child.hwnd;
+    EXPECT_TRUE(WaitUntil([&] { return preview && ::SendMessageW(preview, STM_GETICON, 0, 0) != 0; }, 10s))
+        << "the chosen icon is not shown";
+
     SetText(FieldOf(dialog->hwnd, "&Label:"), "");
     std::optional<WindowInfo> ok = std::nullopt;
     for (const WindowInfo& child : ChildWindows(dialog->hwnd))

@@ -103,4 +103,9 @@ TEST(IconSourceOf, IconPathWithAndWithoutAnIndexElseTheShellsIcon) {
     EXPECT_EQ(IconSourceOf(Entry(kItemCommandName, "*5")), std::nullopt);
     EXPECT_EQ(IconSourceOf(Entry(kItemMenuName, "Tools")), std::nullopt);
     EXPECT_EQ(IconSourceOf(Entry(kItemFilename, "")), std::nullopt);
+    // What the icon chooser writes reads back as the file and index chosen.
+    for (const IconSource& chosen : {IconSource{"C:\\x.dll", 4}, IconSource{"C:\\x.ico", 0},
+                                     IconSource{"C:\\a,3", 0}, IconSource{"C:\\My, Icons\\x.dll", -2}}) {
+        EXPECT_EQ(IconSourceOf(Entry(0, "", IconPathText(chosen.file, chosen.index))), chosen) << chosen.file;
+    }
 }
