@@ -2,6 +2,7 @@
 
 #include "core/message_box.h"
 #include "core/text.h"
+#include "desktop/hotspots.h"
 #include "menus/data_manager.h"
 #include "menus/menu_editing.h"
 
@@ -238,6 +239,17 @@ Outcome RenameMenu(MenuTable& table, std::int32_t menu, std::string_view name) {
             item.PATH = name;
     current = name;
     return {{menu, -1}, {}};
+}
+
+int RenameMenuOfHotspots(std::vector<HotspotRec>& hotspots, std::string_view from, std::string_view to) {
+    int renamed = 0;
+    for (HotspotRec& hotspot : hotspots) {
+        if (hotspot.Type == Hotspots::kShowMenu && Text::EqualsIgnoreCase(hotspot.Menupath1, from)) {
+            hotspot.Menupath1 = to;
+            ++renamed;
+        }
+    }
+    return renamed;
 }
 
 Outcome DeleteMenu(MenuTable& table, std::int32_t menu) {

@@ -4,6 +4,7 @@
 // with the sentence the user sees and leaves the table as it was.
 #pragma once
 
+#include "core/settings.h"
 #include "menus/menu_records.h"
 
 #include <array>
@@ -89,6 +90,8 @@ struct Outcome {
 Outcome AddMenu(MenuTable& table);
 // Renames a menu; the "Menu Name" items that opened it follow it.
 Outcome RenameMenu(MenuTable& table, std::int32_t menu, std::string_view name);
+// Hotspots that show a menu by its old name show it by the new one; how many did.
+int RenameMenuOfHotspots(std::vector<HotspotRec>& hotspots, std::string_view from, std::string_view to);
 // Asks (and warns when other menus open it) before the menu and its items go. Refused
 // when the user said No.
 Outcome DeleteMenu(MenuTable& table, std::int32_t menu);

@@ -47,8 +47,9 @@ std::vector<MenuItemRec> DroppedItems(const std::vector<std::wstring>& paths) {
 } // namespace
 
 MenuEditorPage::MenuEditorPage(HWND panel, RECT room, const DialogFont& font, Program& program,
-                               std::function<void()> changed)
-    : program_(program), font_(font), changed_(std::move(changed)), working_(program.menus) {
+                               std::function<void()> changed, MenuRenamed menuRenamed)
+    : program_(program), font_(font), changed_(std::move(changed)), menuRenamed_(std::move(menuRenamed)),
+      working_(program.menus) {
     const int buttonsLeft = room.right - font.X(kButtonWidth);
     const int noteTop = room.bottom - font.Y(kNoteHeight);
     tree_ = MakeChild(panel, WC_TREEVIEWW, L"",
@@ -270,7 +271,10 @@ LRESULT MenuEditorPage::Tree_EndLabelEdit(const NMTVDISPINFOW& info) {
     const std::string text = Win::Narrow(info.item.pszText);
     Outcome outcome;
     if (place.IsMenu()) {
+        const std::string before = MenuText(working_, place.menu);
         outcome = RenameMenu(working_, place.menu, text);
+        if (outcome.Done())
+            menuRenamed_(before, text);
     } else {
         MenuItemRec fields = working_.pool[static_cast<std::size_t>(DataManager::FindItem(working_, place.menu, place.position))];
         fields.LABEL = text;

@@ -27,9 +27,13 @@ public:
     static constexpr int kRoomHeight = 266;
     static constexpr int kFirstId = 800;
 
+    // A menu of the working copy was renamed: what names it elsewhere follows.
+    using MenuRenamed = std::function<void(const std::string& from, const std::string& to)>;
+
     // Makes the tree and the buttons in the room of the page's panel; the panel hands on
     // their commands and notifications.
-    MenuEditorPage(HWND panel, RECT room, const DialogFont& font, Program& program, std::function<void()> changed);
+    MenuEditorPage(HWND panel, RECT room, const DialogFont& font, Program& program, std::function<void()> changed,
+                   MenuRenamed menuRenamed);
     ~MenuEditorPage();
     MenuEditorPage(const MenuEditorPage&) = delete;
     MenuEditorPage& operator=(const MenuEditorPage&) = delete;
@@ -73,6 +77,7 @@ private:
     Program& program_;
     const DialogFont& font_;
     std::function<void()> changed_;
+    MenuRenamed menuRenamed_;
     MenuTable working_;
     HWND tree_ = nullptr;
     HWND note_ = nullptr;

@@ -135,8 +135,13 @@ void PreferencesWindow::CreatePages() {
 }
 
 void PreferencesWindow::MakeMenuEditor(PreferencePage& page) {
+    // Hotspots that show a renamed menu follow it, as the items that open it do.
+    auto renamed = [this](const std::string& from, const std::string& to) {
+        if (MenuEditor::RenameMenuOfHotspots(working_.HotSpots, from, to) > 0 && hotspotsPage_)
+            hotspotsPage_->Refresh();
+    };
     menuEditor_ = std::make_unique<MenuEditorPage>(page.hwnd(), page.Room("Menus"), font_, program_,
-                                                   [this] { Working_Changed(); });
+                                                   [this] { Working_Changed(); }, renamed);
     page.roomCommands = [this](int id, int code) { return menuEditor_->Command(id, code); };
     page.roomNotify = [this](const NMHDR& header) { return menuEditor_->Notify(header); };
     page.roomNotes = {menuEditor_->note()};

@@ -1,5 +1,6 @@
 #include "harness/shell_drag.h"
 
+#include "harness/failure_screenshots.h"
 #include "harness/input.h"
 #include "harness/wait.h"
 #include "win/text_convert.h"
@@ -103,35 +104,57 @@ private:
     const std::atomic<bool>& release_;
 };
 
+// The drag's loop can go on with a point from before the last move (seen under load:
+// the row crossed last stays marked), so the cursor is nudged by a pixel on the target
+// until the target answers.
+bool ReadyAfterNudges(POINT to, const std::function<bool()>& readyToDrop) {
+    for (int nudge = 0; nudge < 40; ++nudge) {
+        if (WaitUntil(readyToDrop, 250ms))
+            return true;
+        MoveMouse(to.x + (nudge % 2 == 0 ? 1 : 0), to.y);
+    }
+    return false;
+}
+
 } // namespace
 
 // The drag's loop looks at the cursor and asks the source on every tick of its timer.
-bool DragFilesFromShell(const std::vector<std::string>& paths, POINT from, POINT to,
-                        const std::function<bool()>& readyToDrop) {
+::testing::AssertionResult DragFilesFromShell(const std::vector<std::string>& paths, POINT from, POINT to,
+                                              const std::function<bool()>& readyToDrop) {
     std::atomic<bool> dragging = false;
     std::atomic<bool> release = false;
-    std::atomic<bool> dropped = false;
+    std::atomic<HRESULT> result = E_FAIL;
+    std::atomic<DWORD> effect = DROPEFFECT_NONE;
     std::thread dragger([&] {
         FileList files(paths);
         TestSource source(release);
         if (FAILED(::OleInitialize(nullptr)))
             return;
         dragging = true;
-        DWORD effect = DROPEFFECT_NONE;
-        const HRESULT result = ::DoDragDrop(&files, &source, DROPEFFECT_COPY | DROPEFFECT_LINK, &effect);
-        dropped = result == DRAGDROP_S_DROP && effect != DROPEFFECT_NONE;
+        DWORD taken = DROPEFFECT_NONE;
+        result = ::DoDragDrop(&files, &source, DROPEFFECT_COPY | DROPEFFECT_LINK, &taken);
+        effect = taken;
         ::OleUninitialize();
     });
-    bool moved = false;
-    if (WaitUntil([&] { return dragging.load(); }, 10s) && MoveMouse(from.x, from.y)) {
+    std::string failure;
+    if (!WaitUntil([&] { return dragging.load(); }, 10s) || !MoveMouse(from.x, from.y)) {
+        failure = "the drag did not start";
+    } else {
         constexpr int kSteps = 8;
         for (int step = 1; step < kSteps; ++step)
             MoveMouse(from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps);
-        moved = MoveMouse(to.x, to.y) && WaitUntil(readyToDrop, 10s);
+        if (!MoveMouse(to.x, to.y))
+            failure = "the cursor did not reach the target";
+        else if (!ReadyAfterNudges(to, readyToDrop) && SaveNamedScreenshot("shell-drag-not-ready"))
+            failure = "the target did not show that it would take the drop (shell-drag-not-ready.bmp)";
     }
     release = true;
     dragger.join();
-    return moved && dropped;
+    if (failure.empty() && (result != DRAGDROP_S_DROP || effect == DROPEFFECT_NONE))
+        failure = "the drop was not taken (result " + std::to_string(result) + ", effect " + std::to_string(effect) + ")";
+    if (!failure.empty())
+        return ::testing::AssertionFailure() << failure;
+    return ::testing::AssertionSuccess();
 }
 
 } // namespace E2e

@@ -2,6 +2,8 @@
 // from this process, the mouse moved by input from one point of the screen to another.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <windows.h>
 
 #include <functional>
@@ -10,9 +12,9 @@
 
 namespace E2e {
 
-// True when the window under `to` took the drop, which is made once it shows that it is
-// ready for it (by the first point on, 10 s at most).
-bool DragFilesFromShell(const std::vector<std::string>& paths, POINT from, POINT to,
-                        const std::function<bool()>& readyToDrop);
+// Success when the window under `to` took the drop, which is made once it shows that it
+// is ready for it (10 s at most); otherwise what went wrong.
+::testing::AssertionResult DragFilesFromShell(const std::vector<std::string>& paths, POINT from, POINT to,
+                                              const std::function<bool()>& readyToDrop);
 
 } // namespace E2e

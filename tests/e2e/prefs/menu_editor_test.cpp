@@ -37,7 +37,10 @@ protected:
         office.target = "Office";
         office.left = 240;
         office.top = 160;
-        folder.WriteSettings(HotspotSettings({office}));
+        TestHotspot puzzles; // no mouse event: a hotspot whose menu gets renamed
+        puzzles.target = "Games";
+        puzzles.mouseButton = 99;
+        folder.WriteSettings(HotspotSettings({office, puzzles}));
         TestItem tools = Item("Tools", 3, "Tools");
         TestItem games = Item("Games", 3, "Games");
         folder.WriteMenus(MenuFileText({{"Main", {Item("A", 0, "notepad.exe"), Item("B", 0, "notepad.exe"),
@@ -144,6 +147,13 @@ protected:
     static POINT RowPoint(const WindowInfo& tree, int row, int indent) {
         const int height = static_cast<int>(TreeView_GetItemHeight(tree.hwnd));
         return {tree.rect.left + indent, tree.rect.top + 2 + row * height + height / 2};
+    }
+
+    std::string SettingValue(const char* key) const {
+        wchar_t value[512]{};
+        ::GetPrivateProfileStringW(L"TARVEX", Win::Widen(key).c_str(), L"?", value, 512,
+                                   Win::Widen(folder.File("Helmora.ini")).c_str());
+        return Win::Narrow(value);
     }
 
     std::string MainLabels() const {
@@ -257,6 +267,25 @@ TEST_F(MenuEditor, AnItemDraggedOntoAnotherTakesItsPlaceAndTryItShowsTheMenuAsEd
     EXPECT_TRUE(WaitForMenuCount(tarvex.processId(), 0));
     ASSERT_TRUE(PressOK(window));
     EXPECT_TRUE(WaitUntil([&] { return MainLabels() == "C A Tools ? ? ? "; }, 10s)) << MainLabels();
+}
+
+TEST_F(MenuEditor, ARenamedMenuTakesTheItemsAndHotspotsThatOpenItAlong) {
+    HWND window = OpenEditor();
+    ASSERT_TRUE(window);
+    ASSERT_TRUE(SelectRow(window, {VK_END})); // the last root row: Games
+    ASSERT_TRUE(ClickButton(window, "Re&name"));
+    std::optional<WindowInfo> tree = VisibleControl(window, "SysTreeView32", "");
+    ASSERT_TRUE(tree);
+    HWND edit = nullptr;
+    ASSERT_TRUE(WaitUntil([&] { return (edit = ::FindWindowExW(tree->hwnd, nullptr, L"Edit", nullptr)) != nullptr; },
+                          10s));
+    SetText(edit, "Puzzles");
+    PressKey(VK_RETURN);
+    ASSERT_TRUE(WaitUntil([&] { return !::IsWindow(edit); }, 10s));
+    ASSERT_TRUE(PressOK(window));
+    EXPECT_TRUE(WaitUntil([&] { return MenuValue("MENUS", "NAME-3") == "Puzzles"; }, 10s));
+    EXPECT_EQ(MenuValue("MENU-2", "PATH-1"), "Puzzles") << "the Tools item that opened it";
+    EXPECT_EQ(SettingValue("HotSpot1Menupath1"), "Puzzles");
 }
 
 TEST_F(MenuEditor, AMenuThreeLevelsDeepOnTheScreen) {
@@ -375,8 +404,7 @@ TEST_F(MenuEditor, AFileAndAFolderDraggedFromTheShellOntoAnItemBecomeItemsBefore
     for (int row = 0; row < 2; ++row)
         rowB = TreeView_GetNextVisible(tree->hwnd, rowB);
     ASSERT_TRUE(DragFilesFromShell({work.File("Letter.txt"), work.path()}, {700, 700}, b,
-                                   [&] { return TreeView_GetDropHilight(tree->hwnd) == rowB; }))
-        << "the tree did not show where the files go, or did not take them";
+                                   [&] { return TreeView_GetDropHilight(tree->hwnd) == rowB; }));
     ASSERT_TRUE(PressOK(window));
     const std::string folderName = work.path().substr(work.path().find_last_of('\\') + 1);
     EXPECT_TRUE(WaitUntil([&] { return MainLabels() == "A Letter " + folderName + " B C Tools "; }, 10s))

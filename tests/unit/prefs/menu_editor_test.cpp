@@ -1,5 +1,6 @@
 #include "prefs/menu_editor.h"
 
+#include "desktop/hotspots.h"
 #include "menus/data_manager.h"
 #include "menus/menu_editing.h"
 #include "support/answered_message_boxes.h"
@@ -186,6 +187,16 @@ TEST(MenuEditor, NewMenusGetFreeNamesAndRenamingCarriesTheItemsThatOpenIt) {
     EXPECT_EQ(MenuText(table, 1), "Tools");
     EXPECT_EQ(table.pool[DataManager::FindItem(table, 0, 3)].PATH, "Tools");
     EXPECT_EQ(ItemText(table.pool[DataManager::FindItem(table, 0, 3)]), "Go  \xE2\x86\x92 Tools");
+
+    // Hotspots showing the menu follow it; one that runs a program of that name does not.
+    std::vector<HotspotRec> hotspots(3);
+    for (HotspotRec& hotspot : hotspots)
+        hotspot.Menupath1 = "sub";
+    hotspots[0].Type = hotspots[1].Type = Hotspots::kShowMenu;
+    hotspots[2].Type = Hotspots::kShowMenu + 1;
+    EXPECT_EQ(RenameMenuOfHotspots(hotspots, "Sub", "Tools"), 2);
+    EXPECT_EQ(hotspots[1].Menupath1, "Tools");
+    EXPECT_EQ(hotspots[2].Menupath1, "sub");
 }
 
 TEST(MenuEditor, DeletingAMenuThatOthersOpenWarnsFirst) {
