@@ -67,6 +67,10 @@ std::string_view TargetLabel(std::uint8_t type) {
     return type < kTargetLabels.size() ? kTargetLabels[type] : kTargetLabels[0];
 }
 
+std::string_view FieldLabel(HotspotField field) {
+    return kHotspotFieldLabels[static_cast<std::size_t>(field)];
+}
+
 bool FieldApplies(const HotspotRec& hotspot, HotspotField field) {
     switch (field) {
     case HotspotField::Target: return hotspot.Type != Hotspots::kShowTasklist;

@@ -51,6 +51,18 @@ enum class HotspotField {
     Sound,
 };
 
+// The label of each field in the order of HotspotField (a check box's text; the target's
+// label follows the action), and the page's buttons. Mnemonics are unique on the page,
+// the window's own buttons included.
+inline constexpr std::array<std::string_view, 23> kHotspotFieldLabels = {
+    "A&ction:", "", "Ar&guments:", "Start &folder:", "File t&ypes:", "Menu capt&ion:", "Mouse &event:",
+    "A&pplication:", "Left (x1):", "Top (y1):", "Right (x2):", "Bottom (y2):", "Open the menu at the c&ursor",
+    "Menu left:", "Menu top:", "Use a hot &key", "Hot key:", "Gr&oup:", "Menu stays open (al&ways open)",
+    "Hori&zontal menu", "Menu always on &top", "The&me file:", "Sou&nd file:"};
+inline constexpr std::array<std::string_view, 5> kHotspotButtons = {"A&dd", "De&lete", "&Browse...", "&Select Area...",
+                                                                    "Desktop"};
+std::string_view FieldLabel(HotspotField field);
+
 // Whether the field means anything for the hotspot's action (a program has no menu
 // caption, a folder no arguments).
 bool FieldApplies(const HotspotRec& hotspot, HotspotField field);

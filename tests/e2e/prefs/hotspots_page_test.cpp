@@ -1,11 +1,12 @@
 // The hotspots page as a user defines a hotspot on it: Add, a right click as its event,
 // the menu at the cursor, the area dragged on the frozen screen, OK; then a right click
-// in that area opens the menu there.
+// in that area opens the menu there. The application picker dragged onto a window.
 #include "harness/dialogs.h"
 #include "harness/failure_screenshots.h"
 #include "harness/input.h"
 #include "harness/menu_files.h"
 #include "harness/menu_window.h"
+#include "harness/other_program.h"
 #include "harness/preferences.h"
 #include "harness/program_folder.h"
 #include "harness/tarvex.h"
@@ -28,18 +29,30 @@ protected:
         ASSERT_TRUE(tarvex.WaitUntilReady());
     }
 
+    // The preferences window on the Hotspots page; null when it did not come.
+    HWND OpenPage() {
+        tarvex.SendTrayMessage(WM_LBUTTONDBLCLK);
+        std::optional<WindowInfo> preferences = WaitForPreferences(tarvex.processId());
+        return preferences && ShowPreferencePage(preferences->hwnd, "Hotspots") ? preferences->hwnd : nullptr;
+    }
+
+    static bool ShowsNote(HWND window, std::string_view note) {
+        return WaitUntil([&] { return VisibleControl(window, "Static", note).has_value(); }, 10s);
+    }
+
     ProgramFolder folder;
     Tarvex tarvex;
 };
 
+POINT Middle(const RECT& rect) {
+    return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+}
+
 } // namespace
 
 TEST_F(HotspotsPage, AHotspotDefinedWithADraggedAreaOpensItsMenuAtTheCursor) {
-    tarvex.SendTrayMessage(WM_LBUTTONDBLCLK);
-    std::optional<WindowInfo> preferences = WaitForPreferences(tarvex.processId());
-    ASSERT_TRUE(preferences);
-    HWND window = preferences->hwnd;
-    ASSERT_TRUE(ShowPreferencePage(window, "Hotspots"));
+    HWND window = OpenPage();
+    ASSERT_TRUE(window);
     std::optional<WindowInfo> add = VisibleControl(window, "Button", "A&dd");
     ASSERT_TRUE(add && ClickWindow(add->hwnd));
     std::optional<WindowInfo> page = VisibleControl(window, "Tarvex2PreferencePage", "");
@@ -81,4 +94,44 @@ TEST_F(HotspotsPage, AHotspotDefinedWithADraggedAreaOpensItsMenuAtTheCursor) {
     ASSERT_TRUE(menu) << "a right click in the area opens the menu";
     EXPECT_NEAR(menu->rect.left, 420, 2);
     EXPECT_NEAR(menu->rect.top, 380, 2);
+}
+
+TEST_F(HotspotsPage, ThePickerDraggedOntoAWindowTakesItsTitleRefusesTheProgramsOwnAndDesktopSetsTheDesktop) {
+    OtherProgram notepad;
+    ASSERT_TRUE(notepad.Start(L"notepad.exe", "Notepad"));
+    HWND window = OpenPage();
+    ASSERT_TRUE(window);
+    // Notepad in the strip under the preferences window, kept above it.
+    ASSERT_TRUE(::SetWindowPos(notepad.hwnd(), HWND_TOPMOST, 500, 690, 400, 70, SWP_NOACTIVATE));
+    ASSERT_TRUE(WaitUntil([&] { return DescribeWindow(notepad.hwnd()).rect.top == 690; }, 5s));
+    const std::string title = DescribeWindow(notepad.hwnd()).title;
+    std::optional<WindowInfo> app = ControlBesideLabel(window, "A&pplication:", "Edit");
+    std::optional<WindowInfo> picker = VisibleControl(window, "Tarvex2WindowPicker", "");
+    ASSERT_TRUE(app && picker);
+    ASSERT_EQ(ControlText(app->hwnd), "Desktop");
+
+    const POINT from = Middle(picker->rect);
+    bool named = false;
+    ASSERT_TRUE(Drag(from.x, from.y, 700, 740, [&] { // over notepad's text, a child of its window
+        named = ShowsNote(window, "Let go to take \"" + title + "\"");
+        SaveNamedScreenshot("hotspots-application-picker");
+    }));
+    EXPECT_TRUE(named) << "the window under the cursor is named while dragging";
+    EXPECT_TRUE(WaitUntil([&] { return ControlText(app->hwnd) == title; }, 10s)) << "the top-level window's title";
+
+    RECT own{};
+    ::GetWindowRect(window, &own);
+    ASSERT_TRUE(Drag(from.x, from.y, own.left + 30, own.bottom - 60)); // over the preferences window
+    EXPECT_TRUE(ShowsNote(window, "Tarvex's own windows fire no hotspot: let go over another window"));
+    EXPECT_EQ(ControlText(app->hwnd), title);
+
+    std::optional<WindowInfo> apply = VisibleControl(window, "Button", "&Apply");
+    ASSERT_TRUE(apply && ClickWindow(apply->hwnd));
+    EXPECT_TRUE(WaitUntil([&] { return folder.ReadSetting("HotSpot0App") == title; }, 10s));
+    std::optional<WindowInfo> desktop = VisibleControl(window, "Button", "Desktop");
+    ASSERT_TRUE(desktop && ClickWindow(desktop->hwnd));
+    EXPECT_TRUE(WaitUntil([&] { return ControlText(app->hwnd) == "Desktop"; }, 10s));
+    PressKey(VK_RETURN); // OK
+    ASSERT_TRUE(WaitForWindowGone(window, 10s));
+    EXPECT_EQ(folder.ReadSetting("HotSpot0App"), "Desktop");
 }
