@@ -190,6 +190,15 @@ bool DeleteHotspot(SettingsRec& settings, int index) {
     return true;
 }
 
+std::string ZoneLabel(const Hotspots::Zone& zone) {
+    std::string label = HotspotListName(zone.hotspot);
+    if (zone.event >= 0 && static_cast<std::size_t>(zone.event) < kMouseEventNames.size())
+        label.append(": ").append(kMouseEventNames[static_cast<std::size_t>(zone.event)]);
+    if (zone.takenBy)
+        label.append(" (").append(HotspotListName(*zone.takenBy)).append(" fires instead)");
+    return label;
+}
+
 std::optional<std::string> HotKeyClash(const SettingsRec& settings, int index) {
     if (index < 0 || index > settings.NoOfHotSpots())
         return std::nullopt;

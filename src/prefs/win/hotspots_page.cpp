@@ -26,6 +26,7 @@ enum ControlId {
     kSelectAreaId,
     kPickerId,
     kDesktopId,
+    kZonesId,
     kNoteId = HotspotsPage::kFirstId + 19,
     kFirstRowId = HotspotsPage::kFirstId + 20
 };
@@ -92,6 +93,7 @@ HotspotsPage::HotspotsPage(HWND panel, RECT room, const DialogFont& font, Settin
     };
     button(ButtonText(0).c_str(), kAddId, room.top);
     button(ButtonText(1).c_str(), kDeleteId, room.top + font.Y(18));
+    button(ButtonText(5).c_str(), kZonesId, room.top + font.Y(36));
     note_ = MakeChild(panel, WC_STATICW, L"", SS_LEFT | SS_ENDELLIPSIS,
                       {room.left, room.top + font.Y(kListHeight + 2), room.right,
                        room.top + font.Y(kListHeight + 11)},
@@ -259,6 +261,7 @@ bool HotspotsPage::Command(int id, int code) {
     case kBrowseId:
     case kSelectAreaId:
     case kDesktopId:
+    case kZonesId:
         if (code != BN_CLICKED)
             return true;
         if (id == kAddId)
@@ -269,6 +272,8 @@ bool HotspotsPage::Command(int id, int code) {
             cmdBrowse_Click();
         else if (id == kSelectAreaId)
             cmdSelectArea_Click();
+        else if (id == kZonesId)
+            zones_.Show(::GetAncestor(panel_, GA_ROOT), working_.HotSpots);
         else
             SetApplication(std::string(Hotspots::kDesktopApp));
         return true;

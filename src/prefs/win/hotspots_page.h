@@ -1,7 +1,8 @@
 // The hotspots page's own part: the list of hotspots ("Default", "Hotspot 1" ...) with Add
 // and Delete, and under it every field of the selected hotspot. Fields that the hotspot's
 // action or mouse event does not use are greyed; the area can be dragged on a frozen
-// copy of the screen, and the application taken from a window by dragging a picker onto it.
+// copy of the screen, and the application taken from a window by dragging a picker onto it;
+// the zones of all hotspots can be shown on the screen.
 #pragma once
 
 #include "core/settings.h"
@@ -10,6 +11,7 @@
 #include "prefs/hotspot_fields.h"
 #include "prefs/win/dialog_font.h"
 #include "prefs/win/window_picker.h"
+#include "prefs/win/zone_overlay.h"
 
 #include <windows.h>
 
@@ -71,6 +73,7 @@ private:
     HWND selectArea_ = nullptr;
     HWND desktop_ = nullptr;
     std::unique_ptr<WindowPicker> picker_;
+    ZoneOverlay zones_;
     std::vector<Row> rows_;
 };
 

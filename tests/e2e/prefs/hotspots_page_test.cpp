@@ -9,21 +9,31 @@
 #include "harness/other_program.h"
 #include "harness/preferences.h"
 #include "harness/program_folder.h"
+#include "harness/screen.h"
 #include "harness/tarvex.h"
 
 #include <gtest/gtest.h>
+
+#include <chrono>
+#include <tuple>
 
 namespace {
 
 using namespace E2e;
 
+// A hotspot showing the Main menu on a mouse event.
+TestHotspot Showing(int mouseButton) {
+    TestHotspot hotspot;
+    hotspot.target = "Main";
+    hotspot.mouseButton = mouseButton;
+    return hotspot;
+}
+
 class HotspotsPage : public ::testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(folder.ready());
-        TestHotspot desktop; // the default: a left click anywhere
-        desktop.target = "Main";
-        folder.WriteSettings(HotspotSettings({desktop}, "GenShowInTray=True\n"));
+        folder.WriteSettings(HotspotSettings(hotspots, "GenShowInTray=True\n"));
         folder.WriteMenus(MenuFileText({{"Main", NotepadItems({"Text Editor", "Calculator"})}}));
         ASSERT_TRUE(tarvex.Start(folder));
         ASSERT_TRUE(tarvex.WaitUntilReady());
@@ -40,8 +50,21 @@ protected:
         return WaitUntil([&] { return VisibleControl(window, "Static", note).has_value(); }, 10s);
     }
 
+    std::vector<TestHotspot> hotspots = {Showing(0)}; // the default: a left click anywhere
     ProgramFolder folder;
     Tarvex tarvex;
+};
+
+// Beside the default one: a right click in a strip above the preferences window, a corner,
+// an edge, and a second hotspot of that corner, which never fires.
+class HotspotsPageWithZones : public HotspotsPage {
+protected:
+    HotspotsPageWithZones() {
+        TestHotspot strip = Showing(2); // a right click
+        std::tie(strip.x1, strip.y1, strip.x2, strip.y2) = std::tuple(100, 20, 400, 70);
+        hotspots.insert(hotspots.end(), {strip, Showing(5), Showing(9), Showing(5)}); // top right, left edge
+
+    }
 };
 
 POINT Middle(const RECT& rect) {
@@ -61,10 +84,10 @@ TEST_F(HotspotsPage, AHotspotDefinedWithADraggedAreaOpensItsMenuAtTheCursor) {
     ASSERT_TRUE(list);
     ASSERT_TRUE(WaitUntil([&] { return ::SendMessageW(list->hwnd, LB_GETCURSEL, 0, 0) == 1; }, 10s)) << "Hotspot 1";
 
-    TapKeys(VK_MENU, 'E', 60ms); // "Mouse &event:", from a left click down to a right click
+    TapKeys(VK_MENU, 'V', 60ms); // "Mouse e&vent:", from a left click down to a right click
     PressKey(VK_DOWN);
     PressKey(VK_DOWN);
-    std::optional<WindowInfo> event = ControlBesideLabel(window, "Mouse &event:", "ComboBox");
+    std::optional<WindowInfo> event = ControlBesideLabel(window, "Mouse e&vent:", "ComboBox");
     ASSERT_TRUE(event);
     EXPECT_TRUE(WaitUntil([&] { return ControlText(event->hwnd) == "Right click"; }, 10s));
     TapKeys(VK_MENU, 'U', 60ms); // "Open the menu at the c&ursor"
@@ -134,4 +157,28 @@ TEST_F(HotspotsPage, ThePickerDraggedOntoAWindowTakesItsTitleRefusesTheProgramsO
     PressKey(VK_RETURN); // OK
     ASSERT_TRUE(WaitForWindowGone(window, 10s));
     EXPECT_EQ(folder.ReadSetting("HotSpot0App"), "Desktop");
+}
+
+TEST_F(HotspotsPageWithZones, ShowZonesDrawsThemOverTheScreenForAFewSecondsOrUntilAClickThatGoesThrough) {
+    HWND window = OpenPage();
+    ASSERT_TRUE(window);
+    const COLORREF desktop = ReadPixel(101, 21);
+    std::optional<WindowInfo> button = VisibleControl(window, "Button", "Show &Zones");
+    ASSERT_TRUE(button && ClickWindow(button->hwnd));
+    const auto shown = std::chrono::steady_clock::now();
+    std::optional<WindowInfo> overlay = WaitForVisibleWindow("Tarvex2HotspotZones", tarvex.processId(), 10s);
+    ASSERT_TRUE(overlay);
+    EXPECT_EQ(overlay->rect.right - overlay->rect.left, 1024);
+    EXPECT_TRUE(WaitUntil([&] { return ReadPixel(101, 21) != desktop; }, 5s)) << "the strip's border";
+    SaveNamedScreenshot("hotspots-zones");
+    ASSERT_TRUE(WaitForWindowGone(overlay->hwnd, 10s));
+    EXPECT_GE(std::chrono::steady_clock::now() - shown, 3s) << "they stay about four seconds";
+
+    ASSERT_TRUE(ClickWindow(button->hwnd));
+    overlay = WaitForVisibleWindow("Tarvex2HotspotZones", tarvex.processId(), 10s);
+    ASSERT_TRUE(overlay);
+    const auto clicked = std::chrono::steady_clock::now();
+    EXPECT_TRUE(ShowPreferencePage(window, "Global")) << "the click reaches the page list under them";
+    ASSERT_TRUE(WaitForWindowGone(overlay->hwnd, 10s));
+    EXPECT_LT(std::chrono::steady_clock::now() - clicked, 2500ms) << "and ends them";
 }
