@@ -59,9 +59,9 @@ inline constexpr std::array<std::string_view, 23> kHotspotFieldLabels = {
     "A&ction:", "", "Ar&guments:", "Start &folder:", "File t&ypes:", "Menu capt&ion:", "Mouse e&vent:",
     "A&pplication:", "Left (x1):", "Top (y1):", "Right (x2):", "Bottom (y2):", "Open the menu at the c&ursor",
     "Menu left:", "Menu top:", "Use a hot &key", "Hot key:", "Gr&oup:", "Menu stays open (al&ways open)",
-    "Horizontal m&enu", "Menu always on &top", "The&me file:", "Sou&nd file:"};
-inline constexpr std::array<std::string_view, 6> kHotspotButtons = {"A&dd",           "De&lete", "&Browse...",
-                                                                    "&Select Area...", "Desktop", "Show &Zones"};
+    "Horizontal m&enu", "Menu always on &top", "The&me folder:", "Sou&nd file:"};
+inline constexpr std::array<std::string_view, 7> kHotspotButtons = {
+    "A&dd", "De&lete", "&Browse...", "&Select Area...", "Desktop", "Show &Zones", "Browse..."};
 std::string_view FieldLabel(HotspotField field);
 
 // Whether the field means anything for the hotspot's action (a program has no menu

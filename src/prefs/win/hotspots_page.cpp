@@ -27,11 +27,13 @@ enum ControlId {
     kPickerId,
     kDesktopId,
     kZonesId,
+    kThemeBrowseId,
+    kSoundBrowseId,
     kNoteId = HotspotsPage::kFirstId + 19,
     kFirstRowId = HotspotsPage::kFirstId + 20
 };
 
-enum class Kind { Choice, Target, Text, Check, HotKey, Application };
+enum class Kind { Choice, Target, Text, Check, HotKey, Application, Browsed };
 
 struct RowDef {
     HotspotField field;
@@ -50,8 +52,8 @@ constexpr RowDef kRows[] = {
     {HotspotField::MenuTop, Kind::Text},       {HotspotField::UseHotKey, Kind::Check},
     {HotspotField::HotKey, Kind::HotKey},      {HotspotField::Group, Kind::Text},
     {HotspotField::AlwaysOpen, Kind::Check},   {HotspotField::Horizontal, Kind::Check},
-    {HotspotField::ForceOnTop, Kind::Check},   {HotspotField::Theme, Kind::Text},
-    {HotspotField::Sound, Kind::Text},
+    {HotspotField::ForceOnTop, Kind::Check},   {HotspotField::Theme, Kind::Browsed},
+    {HotspotField::Sound, Kind::Browsed},
 };
 
 std::wstring ButtonText(std::size_t which) {
@@ -144,6 +146,16 @@ HotspotsPage::HotspotsPage(HWND panel, RECT room, const DialogFont& font, Settin
             row.control = MakeChild(panel, WC_EDITW, L"", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP,
                                     {fieldLeft, top, room.right, bottom}, id);
             break;
+        case Kind::Browsed: {
+            const int browseLeft = room.right - font.X(kButtonWidth);
+            row.label = MakeChild(panel, WC_STATICW, label, SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
+            row.control = MakeChild(panel, WC_EDITW, L"", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP,
+                                    {fieldLeft, top, browseLeft - font.X(kGap), bottom}, id);
+            row.button = MakeChild(panel, WC_BUTTONW, ButtonText(6).c_str(), BS_PUSHBUTTON | WS_TABSTOP,
+                                   {browseLeft, top, room.right, bottom},
+                                   def.field == HotspotField::Theme ? kThemeBrowseId : kSoundBrowseId);
+            break;
+        }
         case Kind::Application: {
             // The title can be typed, taken from a window by dragging the picker onto it, or set to "Desktop".
             const int desktopLeft = room.right - font.X(kDesktopWidth);
@@ -234,9 +246,9 @@ void HotspotsPage::ShowHotspot() {
         }
         if (row.field == HotspotField::Target)
             ::SetWindowTextW(row.label, (Win::Widen(Preferences::TargetLabel(hotspot.Type)) + L":").c_str());
-        ::EnableWindow(row.control, enabled);
-        if (row.label)
-            ::EnableWindow(row.label, enabled);
+        for (HWND part : {row.label, row.control, row.button})
+            if (part)
+                ::EnableWindow(part, enabled);
     }
     const bool browses = hotspot.Type == Hotspots::kShowFolder || hotspot.Type == Hotspots::kRunProgram;
     ::EnableWindow(browse_, browses);
@@ -262,6 +274,8 @@ bool HotspotsPage::Command(int id, int code) {
     case kSelectAreaId:
     case kDesktopId:
     case kZonesId:
+    case kThemeBrowseId:
+    case kSoundBrowseId:
         if (code != BN_CLICKED)
             return true;
         if (id == kAddId)
@@ -274,6 +288,8 @@ bool HotspotsPage::Command(int id, int code) {
             cmdSelectArea_Click();
         else if (id == kZonesId)
             zones_.Show(::GetAncestor(panel_, GA_ROOT), working_.HotSpots);
+        else if (id == kThemeBrowseId || id == kSoundBrowseId)
+            cmdBrowseLook_Click(id == kThemeBrowseId ? HotspotField::Theme : HotspotField::Sound);
         else
             SetApplication(std::string(Hotspots::kDesktopApp));
         return true;
@@ -382,6 +398,20 @@ void HotspotsPage::cmdBrowse_Click() {
     if (!picked)
         return;
     Preferences::SetFieldText(hotspot, HotspotField::Target, *picked);
+    ShowHotspot();
+    Changed();
+}
+
+// The menu's theme is a folder; its sound a wave file.
+void HotspotsPage::cmdBrowseLook_Click(HotspotField field) {
+    HotspotRec& hotspot = Selected();
+    HWND owner = ::GetAncestor(panel_, GA_ROOT);
+    std::optional<std::string> picked = field == HotspotField::Theme
+                                            ? PickFolder(owner, hotspot.Theme)
+                                            : PickFile(owner, hotspot.SoundPath, L"Sounds", L"*.wav");
+    if (!picked)
+        return;
+    Preferences::SetFieldText(hotspot, field, *picked);
     ShowHotspot();
     Changed();
 }

@@ -43,6 +43,7 @@ private:
         Preferences::HotspotField field;
         HWND label = nullptr;
         HWND control = nullptr;
+        HWND button = nullptr; // a Browse button of its own
     };
 
     HotspotRec& Selected();
@@ -54,6 +55,7 @@ private:
     void cmdDelete_Click();
     void cmdBrowse_Click();
     void cmdSelectArea_Click();
+    void cmdBrowseLook_Click(Preferences::HotspotField field);
     Preferences::PickedApplication PickAt(HWND under) const;
     void Picker_Dropped(HWND under);
     void SetApplication(const std::string& app);

@@ -10,6 +10,7 @@
 #include "harness/preferences.h"
 #include "harness/program_folder.h"
 #include "harness/screen.h"
+#include "win/text_convert.h"
 #include "harness/tarvex.h"
 
 #include <gtest/gtest.h>
@@ -181,4 +182,28 @@ TEST_F(HotspotsPageWithZones, ShowZonesDrawsThemOverTheScreenForAFewSecondsOrUnt
     EXPECT_TRUE(ShowPreferencePage(window, "Global")) << "the click reaches the page list under them";
     ASSERT_TRUE(WaitForWindowGone(overlay->hwnd, 10s));
     EXPECT_LT(std::chrono::steady_clock::now() - clicked, 2500ms) << "and ends them";
+}
+
+TEST_F(HotspotsPage, TheSoundsBrowseButtonPutsThePickedWaveFileInTheField) {
+    folder.WriteBytes("chime.wav", "RIFF");
+    HWND window = OpenPage();
+    ASSERT_TRUE(window);
+    TapKeys(VK_MENU, 'N', 60ms); // "Sou&nd file:", scrolled into view
+    std::optional<WindowInfo> sound = ControlBesideLabel(window, "Sou&nd file:", "Edit");
+    ASSERT_TRUE(sound && WaitUntil([&] { return FocusedControl(window) == sound->hwnd; }, 10s));
+    std::optional<WindowInfo> browse = ControlBesideLabel(window, "Sou&nd file:", "Button");
+    ASSERT_TRUE(browse && ClickWindow(browse->hwnd));
+    std::optional<WindowInfo> dialog = WaitForMessageBox(tarvex.processId());
+    ASSERT_TRUE(dialog) << "the file picker";
+    const std::wstring path = Win::Widen(folder.File("chime.wav"));
+    for (const WindowInfo& child : AllControls(dialog->hwnd))
+        if (child.className == "Edit") // its file name
+            ::SendMessageW(child.hwnd, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(path.c_str()));
+    PressKey(VK_RETURN);
+    ASSERT_TRUE(WaitForWindowGone(dialog->hwnd, 10s));
+    EXPECT_TRUE(WaitUntil([&] { return ControlText(sound->hwnd) == folder.File("chime.wav"); }, 10s));
+    std::optional<WindowInfo> ok = VisibleControl(window, "Button", "OK");
+    ASSERT_TRUE(ok && ClickWindow(ok->hwnd));
+    ASSERT_TRUE(WaitForWindowGone(window, 10s));
+    EXPECT_EQ(folder.ReadSetting("HotSpot0SoundPath"), folder.File("chime.wav"));
 }

@@ -5,6 +5,7 @@
 #include "prefs/menu_editor.h"
 #include "prefs/preference_pages.h"
 #include "prefs/sound_page.h"
+#include "prefs/user_tasks.h"
 
 #include <gtest/gtest.h>
 
@@ -32,6 +33,7 @@ const std::set<std::string_view> kWithoutControl = {
 // Groups that the page fills itself rather than with catalogue keys.
 const std::set<std::pair<PrefPage, std::string_view>> kGroupsOfTheirOwn = {{PrefPage::SoundAnimation, "Sounds"},
                                                                          {PrefPage::Hotspots, "Hotspots"},
+                                                                         {PrefPage::TasklistSystray, "User tasks"},
                                                                          {PrefPage::MenuEditor, "Menus"}};
 
 bool Shown(const SettingDef& def) {
@@ -78,7 +80,7 @@ TEST(SettingsControls, EveryControlStandsInAGroupOfItsPageAndNoGroupStaysEmpty) 
 
 // A mnemonic is one '&' before a letter or digit, used once on its page: a second use would
 // make Alt+letter stop at the first control only; the window's buttons are on every page,
-// and the pages that make their own controls (sounds, menus, hotspots) name them in core. Labels in one group must differ to be told apart.
+// and the pages that make their own controls (sounds, menus, hotspots, user tasks) name them in core. Labels in one group must differ to be told apart.
 TEST(SettingsControls, LabelsAreDistinctAndMnemonicsUniquePerPage) {
     std::map<std::pair<PrefPage, char>, std::string_view> mnemonics;
     auto reserve = [&](PrefPage page, std::span<const std::string_view> buttons) {
@@ -95,6 +97,7 @@ TEST(SettingsControls, LabelsAreDistinctAndMnemonicsUniquePerPage) {
     reserve(PrefPage::MenuEditor, MenuEditor::kButtons);
     reserve(PrefPage::Hotspots, Preferences::kHotspotFieldLabels);
     reserve(PrefPage::Hotspots, Preferences::kHotspotButtons);
+    reserve(PrefPage::TasklistSystray, Preferences::kUserTaskLabels);
     std::set<std::tuple<PrefPage, std::string_view, std::string>> labels;
     for (const SettingDef& def : SettingsCatalogue()) {
         if (!Shown(def))
