@@ -195,7 +195,11 @@ TEST_F(Preferences, EveryPageFitsItsWindow) {
         Settle(300ms);
         std::string name(page.title);
         std::replace(name.begin(), name.end(), ' ', '-');
-        SaveNamedScreenshot("preferences-" + name + (dpi == 96 ? "" : "-" + std::to_string(dpi) + "dpi"));
+        std::string shot("preferences-");
+        shot.append(name);
+        if (dpi != 96) // appended: GCC 12 for i686 misreads "text" + std::string here (-Wrestrict)
+            shot.append("-").append(std::to_string(dpi)).append("dpi");
+        SaveNamedScreenshot(shot);
     }
     EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
 }
