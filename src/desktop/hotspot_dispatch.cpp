@@ -9,9 +9,6 @@ namespace Hotspots {
 
 namespace {
 
-constexpr const char* kDesktopApp = "Desktop";
-constexpr const char* kShellDesktopTitle = "Program Manager";
-constexpr const char* kOwnTitle = "tarvex";
 constexpr int kLastClickCode = kRightClick;
 
 bool IsDown(HotKey hotKey, const KeyDown& down) {
@@ -101,7 +98,7 @@ std::uintptr_t ReferenceWindow(std::uintptr_t window, const WindowLookup& lookup
 std::string HotspotTitle(std::uintptr_t window, const WindowLookup& lookup) {
     std::string title = lookup.title(window);
     if (title.empty() && window == lookup.desktop)
-        return kDesktopApp;
+        return std::string(kDesktopApp);
     return title;
 }
 

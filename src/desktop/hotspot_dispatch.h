@@ -20,6 +20,12 @@ using KeyDown = std::function<bool(int virtualKey)>;
 inline constexpr int kShiftKey = 0x10;
 inline constexpr int kControlKey = 0x11;
 
+// The App of a desktop hotspot; it also matches the shell's desktop, "Program Manager".
+inline constexpr std::string_view kDesktopApp = "Desktop";
+inline constexpr std::string_view kShellDesktopTitle = "Program Manager";
+// A window titled so (in any case) is taken for one of this program's, which fire nothing.
+inline constexpr std::string_view kOwnTitle = "tarvex";
+
 // A hot key: a key with Shift or with Ctrl.
 struct HotKey {
     int key = 0;

@@ -67,6 +67,10 @@ std::string_view TargetLabel(std::uint8_t type) {
     return type < kTargetLabels.size() ? kTargetLabels[type] : kTargetLabels[0];
 }
 
+std::string_view FieldLabel(HotspotField field) {
+    return kHotspotFieldLabels[static_cast<std::size_t>(field)];
+}
+
 bool FieldApplies(const HotspotRec& hotspot, HotspotField field) {
     switch (field) {
     case HotspotField::Target: return hotspot.Type != Hotspots::kShowTasklist;
@@ -184,6 +188,15 @@ bool DeleteHotspot(SettingsRec& settings, int index) {
             --entry;
     settings.HotSpots.erase(settings.HotSpots.begin() + index);
     return true;
+}
+
+std::string ZoneLabel(const Hotspots::Zone& zone) {
+    std::string label = HotspotListName(zone.hotspot);
+    if (zone.event >= 0 && static_cast<std::size_t>(zone.event) < kMouseEventNames.size())
+        label.append(": ").append(kMouseEventNames[static_cast<std::size_t>(zone.event)]);
+    if (zone.takenBy)
+        label.append(" (").append(HotspotListName(*zone.takenBy)).append(" fires instead)");
+    return label;
 }
 
 std::optional<std::string> HotKeyClash(const SettingsRec& settings, int index) {

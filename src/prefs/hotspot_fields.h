@@ -5,6 +5,7 @@
 #pragma once
 
 #include "core/settings.h"
+#include "desktop/hotspot_zones.h"
 
 #include <array>
 #include <optional>
@@ -51,6 +52,18 @@ enum class HotspotField {
     Sound,
 };
 
+// The label of each field in the order of HotspotField (a check box's text; the target's
+// label follows the action), and the page's buttons. Mnemonics are unique on the page,
+// the window's own buttons included.
+inline constexpr std::array<std::string_view, 23> kHotspotFieldLabels = {
+    "A&ction:", "", "Ar&guments:", "Start &folder:", "File t&ypes:", "Menu capt&ion:", "Mouse e&vent:",
+    "A&pplication:", "Left (x1):", "Top (y1):", "Right (x2):", "Bottom (y2):", "Open the menu at the c&ursor",
+    "Menu left:", "Menu top:", "Use a hot &key", "Hot key:", "Gr&oup:", "Menu stays open (al&ways open)",
+    "Horizontal m&enu", "Menu always on &top", "The&me folder:", "Sou&nd file:"};
+inline constexpr std::array<std::string_view, 7> kHotspotButtons = {
+    "A&dd", "De&lete", "&Browse...", "&Select Area...", "Desktop", "Show &Zones", "Browse..."};
+std::string_view FieldLabel(HotspotField field);
+
 // Whether the field means anything for the hotspot's action (a program has no menu
 // caption, a folder no arguments).
 bool FieldApplies(const HotspotRec& hotspot, HotspotField field);
@@ -82,6 +95,9 @@ std::optional<std::string> AddHotspot(SettingsRec& settings, int screenWidth, in
 // Deletes a hotspot other than the default one; the later ones move down a number, and
 // the start-up list follows them.
 bool DeleteHotspot(SettingsRec& settings, int index);
+
+// The label of a hotspot's zone, "Hotspot 2: Top edge", naming the hotspot that fires instead.
+std::string ZoneLabel(const Hotspots::Zone& zone);
 
 // The other hotspot (or the preferences' own hot key) that a hotspot's hot key is already
 // taken by, as a sentence; none when it is free or the hotspot has no hot key.

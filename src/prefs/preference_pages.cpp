@@ -1,5 +1,7 @@
 #include "prefs/preference_pages.h"
 
+#include "prefs/user_tasks.h"
+
 #include <array>
 
 namespace Preferences {
@@ -15,7 +17,8 @@ constexpr std::array<std::string_view, 7> kButtonGroups = {"Size and text", "Ico
 constexpr std::array<std::string_view, 6> kMenuGroups = {"Frame",     "Opening sub-menus", "Scrolling",
                                                          "Folders",   "Horizontal menus",  "Keyboard"};
 constexpr std::array<std::string_view, 2> kSoundGroups = {"Sounds", "Animation"};
-constexpr std::array<std::string_view, 3> kTaskGroups = {"Task list", "Task list background", "Systray"};
+constexpr std::array<std::string_view, 4> kTaskGroups = {"Task list", kUserTasksGroup, "Task list background",
+                                                         "Systray"};
 constexpr std::array<std::string_view, 1> kHotspotGroups = {"Hotspots"};
 constexpr std::array<std::string_view, 1> kMenuEditorGroups = {"Menus"};
 constexpr std::array<std::string_view, 6> kGlobalGroups = {"Start-up", "Hot key", "Tray and desktop", "Mouse",

@@ -3,9 +3,9 @@
 #include "core/win/form1.h"
 #include "desktop/hotspots.h"
 #include "desktop/win/hotspot_opening.h"
+#include "desktop/win/hotspot_windows.h"
 #include "menus/win/launcher.h"
 #include "menuwindow/win/form2.h"
-#include "win/text_convert.h"
 
 #include <windowsx.h>
 
@@ -18,7 +18,6 @@ constexpr UINT_PTR kTimer1 = HotspotTimers::kTimer1Id;
 constexpr UINT_PTR kTimer3 = HotspotTimers::kTimer3Id;
 constexpr UINT kTimer1Interval = 100;
 constexpr UINT kTimer3Interval = 10;
-constexpr int kTitleLength = 255;
 
 // The keys as they are now, each asked once per look.
 class KeysNow {
@@ -51,9 +50,7 @@ HWND AsWindow(std::uintptr_t window) {
 }
 
 std::string TitleOf(std::uintptr_t window) {
-    wchar_t title[kTitleLength + 1]{};
-    int length = ::GetWindowTextW(AsWindow(window), title, kTitleLength + 1);
-    return Win::Narrow(std::wstring_view(title, static_cast<std::size_t>(length > 0 ? length : 0)));
+    return HotspotWindows::TitleOf(AsWindow(window));
 }
 
 std::uintptr_t ParentOf(std::uintptr_t window) {
@@ -85,9 +82,7 @@ Hotspots::ClickedWindow ClickedWindowOf(std::uintptr_t window) {
     RECT rect{};
     ::GetWindowRect(AsWindow(reference), &rect);
     clicked.origin = {rect.left, rect.top};
-    DWORD processId = 0;
-    ::GetWindowThreadProcessId(AsWindow(reference), &processId);
-    clicked.ours = processId == ::GetCurrentProcessId();
+    clicked.ours = HotspotWindows::IsOurs(AsWindow(reference));
     return clicked;
 }
 

@@ -3,6 +3,8 @@
 #include "desktop/hotspots.h"
 #include "prefs/startup_hotspots.h"
 #include "prefs/win/common_dialogs.h"
+#include "desktop/win/hotspot_windows.h"
+#include "prefs/application_picker.h"
 #include "prefs/win/form3.h"
 #include "win/text_convert.h"
 
@@ -22,49 +24,48 @@ enum ControlId {
     kDeleteId,
     kBrowseId,
     kSelectAreaId,
-    kFirstRowId = HotspotsPage::kFirstId + 10
+    kPickerId,
+    kDesktopId,
+    kZonesId,
+    kThemeBrowseId,
+    kSoundBrowseId,
+    kNoteId = HotspotsPage::kFirstId + 19,
+    kFirstRowId = HotspotsPage::kFirstId + 20
 };
 
-enum class Kind { Choice, Target, Text, Check, HotKey };
+enum class Kind { Choice, Target, Text, Check, HotKey, Application, Browsed };
 
 struct RowDef {
     HotspotField field;
-    const wchar_t* label; // a check box's text
     Kind kind;
 };
 
-// Mnemonics are unique on the page, the window's Help, Revert and Apply included.
+// In the order of the fields, whose labels core gives.
 constexpr RowDef kRows[] = {
-    {HotspotField::Action, L"A&ction:", Kind::Choice},
-    {HotspotField::Target, L"", Kind::Target}, // labelled by the action
-    {HotspotField::Arguments, L"Ar&guments:", Kind::Text},
-    {HotspotField::StartFolder, L"Start &folder:", Kind::Text},
-    {HotspotField::FileTypes, L"File t&ypes:", Kind::Text},
-    {HotspotField::Caption, L"Menu capt&ion:", Kind::Text},
-    {HotspotField::MouseEvent, L"Mouse &event:", Kind::Choice},
-    {HotspotField::Application, L"A&pplication:", Kind::Text},
-    {HotspotField::X1, L"Left (x1):", Kind::Text},
-    {HotspotField::Y1, L"Top (y1):", Kind::Text},
-    {HotspotField::X2, L"Right (x2):", Kind::Text},
-    {HotspotField::Y2, L"Bottom (y2):", Kind::Text},
-    {HotspotField::OnMouse, L"Open the menu at the c&ursor", Kind::Check},
-    {HotspotField::MenuLeft, L"Menu left:", Kind::Text},
-    {HotspotField::MenuTop, L"Menu top:", Kind::Text},
-    {HotspotField::UseHotKey, L"Use a hot &key", Kind::Check},
-    {HotspotField::HotKey, L"Hot key:", Kind::HotKey},
-    {HotspotField::Group, L"Gr&oup:", Kind::Text},
-    {HotspotField::AlwaysOpen, L"Menu stays open (al&ways open)", Kind::Check},
-    {HotspotField::Horizontal, L"Hori&zontal menu", Kind::Check},
-    {HotspotField::ForceOnTop, L"Menu always on &top", Kind::Check},
-    {HotspotField::Theme, L"The&me file:", Kind::Text},
-    {HotspotField::Sound, L"Sou&nd file:", Kind::Text},
+    {HotspotField::Action, Kind::Choice},      {HotspotField::Target, Kind::Target},
+    {HotspotField::Arguments, Kind::Text},     {HotspotField::StartFolder, Kind::Text},
+    {HotspotField::FileTypes, Kind::Text},     {HotspotField::Caption, Kind::Text},
+    {HotspotField::MouseEvent, Kind::Choice},  {HotspotField::Application, Kind::Application},
+    {HotspotField::X1, Kind::Text},            {HotspotField::Y1, Kind::Text},
+    {HotspotField::X2, Kind::Text},            {HotspotField::Y2, Kind::Text},
+    {HotspotField::OnMouse, Kind::Check},      {HotspotField::MenuLeft, Kind::Text},
+    {HotspotField::MenuTop, Kind::Text},       {HotspotField::UseHotKey, Kind::Check},
+    {HotspotField::HotKey, Kind::HotKey},      {HotspotField::Group, Kind::Text},
+    {HotspotField::AlwaysOpen, Kind::Check},   {HotspotField::Horizontal, Kind::Check},
+    {HotspotField::ForceOnTop, Kind::Check},   {HotspotField::Theme, Kind::Browsed},
+    {HotspotField::Sound, Kind::Browsed},
 };
+
+std::wstring ButtonText(std::size_t which) {
+    return Win::Widen(Preferences::kHotspotButtons[which]);
+}
 
 constexpr int kListHeight = 56;
 constexpr int kButtonWidth = 50;
 constexpr int kRowHeight = 14;
 constexpr int kLabelShare = 40; // per cent of the room's width
 constexpr int kGap = 4;
+constexpr int kDesktopWidth = 36;
 
 std::wstring TextOf(HWND control) {
     std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(control)) + 1, L'\0');
@@ -92,12 +93,13 @@ HotspotsPage::HotspotsPage(HWND panel, RECT room, const DialogFont& font, Settin
         return MakeChild(panel, WC_BUTTONW, text, BS_PUSHBUTTON | WS_TABSTOP,
                          {buttonLeft, top, buttonLeft + font.X(kButtonWidth), top + font.Y(14)}, id);
     };
-    button(L"A&dd", kAddId, room.top);
-    button(L"De&lete", kDeleteId, room.top + font.Y(18));
+    button(ButtonText(0).c_str(), kAddId, room.top);
+    button(ButtonText(1).c_str(), kDeleteId, room.top + font.Y(18));
+    button(ButtonText(5).c_str(), kZonesId, room.top + font.Y(36));
     note_ = MakeChild(panel, WC_STATICW, L"", SS_LEFT | SS_ENDELLIPSIS,
                       {room.left, room.top + font.Y(kListHeight + 2), room.right,
                        room.top + font.Y(kListHeight + 11)},
-                      kFirstId + 9);
+                      kNoteId);
 
     const int fieldLeft = room.left + width * kLabelShare / 100;
     int top = room.top + font.Y(kListHeight + 14);
@@ -105,13 +107,15 @@ HotspotsPage::HotspotsPage(HWND panel, RECT room, const DialogFont& font, Settin
     for (const RowDef& def : kRows) {
         Row row{def.field};
         const int bottom = top + font.Y(kRowHeight - 2);
+        const std::wstring labelText = Win::Widen(Preferences::FieldLabel(def.field));
+        const wchar_t* label = labelText.c_str();
         switch (def.kind) {
         case Kind::Check:
-            row.control = MakeChild(panel, WC_BUTTONW, def.label, BS_AUTOCHECKBOX | WS_TABSTOP,
+            row.control = MakeChild(panel, WC_BUTTONW, label, BS_AUTOCHECKBOX | WS_TABSTOP,
                                     {room.left, top, room.right, bottom}, id);
             break;
         case Kind::Choice: {
-            row.label = MakeChild(panel, WC_STATICW, def.label, SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
+            row.label = MakeChild(panel, WC_STATICW, label, SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
             row.control = MakeChild(panel, WC_COMBOBOXW, L"", CBS_DROPDOWNLIST | WS_VSCROLL | WS_TABSTOP,
                                     {fieldLeft, top, room.right, top + font.Y(120)}, id);
             if (def.field == HotspotField::Action)
@@ -127,27 +131,52 @@ HotspotsPage::HotspotsPage(HWND panel, RECT room, const DialogFont& font, Settin
             row.label = MakeChild(panel, WC_STATICW, L"", SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
             row.control = MakeChild(panel, WC_COMBOBOXW, L"", CBS_DROPDOWN | CBS_AUTOHSCROLL | WS_VSCROLL | WS_TABSTOP,
                                     {fieldLeft, top, browseLeft - font.X(kGap), top + font.Y(120)}, id);
-            browse_ = MakeChild(panel, WC_BUTTONW, L"&Browse...", BS_PUSHBUTTON | WS_TABSTOP,
+            browse_ = MakeChild(panel, WC_BUTTONW, ButtonText(2).c_str(), BS_PUSHBUTTON | WS_TABSTOP,
                                 {browseLeft, top, room.right, bottom}, kBrowseId);
             break;
         }
         case Kind::HotKey:
-            row.label = MakeChild(panel, WC_STATICW, def.label, SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
+            row.label = MakeChild(panel, WC_STATICW, label, SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
             row.control = MakeChild(panel, HOTKEY_CLASSW, L"", WS_BORDER | WS_TABSTOP, {fieldLeft, top, room.right, bottom}, id);
             ::SendMessageW(row.control, HKM_SETRULES,
                            HKCOMB_NONE | HKCOMB_A | HKCOMB_CA | HKCOMB_SA | HKCOMB_SC | HKCOMB_SCA, HOTKEYF_CONTROL);
             break;
         case Kind::Text:
-            row.label = MakeChild(panel, WC_STATICW, def.label, SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
+            row.label = MakeChild(panel, WC_STATICW, label, SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
             row.control = MakeChild(panel, WC_EDITW, L"", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP,
                                     {fieldLeft, top, room.right, bottom}, id);
             break;
+        case Kind::Browsed: {
+            const int browseLeft = room.right - font.X(kButtonWidth);
+            row.label = MakeChild(panel, WC_STATICW, label, SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
+            row.control = MakeChild(panel, WC_EDITW, L"", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP,
+                                    {fieldLeft, top, browseLeft - font.X(kGap), bottom}, id);
+            row.button = MakeChild(panel, WC_BUTTONW, ButtonText(6).c_str(), BS_PUSHBUTTON | WS_TABSTOP,
+                                   {browseLeft, top, room.right, bottom},
+                                   def.field == HotspotField::Theme ? kThemeBrowseId : kSoundBrowseId);
+            break;
+        }
+        case Kind::Application: {
+            // The title can be typed, taken from a window by dragging the picker onto it, or set to "Desktop".
+            const int desktopLeft = room.right - font.X(kDesktopWidth);
+            const int pickerLeft = desktopLeft - font.X(kGap) - (bottom - top);
+            row.label = MakeChild(panel, WC_STATICW, label, SS_LEFT, {room.left, top + font.Y(2), fieldLeft, bottom});
+            row.control = MakeChild(panel, WC_EDITW, L"", ES_AUTOHSCROLL | WS_BORDER | WS_TABSTOP,
+                                    {fieldLeft, top, pickerLeft - font.X(kGap), bottom}, id);
+            picker_ = std::make_unique<WindowPicker>(
+                panel, RECT{pickerLeft, top, desktopLeft - font.X(kGap), bottom}, kPickerId,
+                WindowPicker::Events{[this](HWND under) { SetNote(Preferences::PickingNote(PickAt(under))); },
+                                     [this](HWND under) { Picker_Dropped(under); }, [this] { ShowHotspot(); }});
+            desktop_ = MakeChild(panel, WC_BUTTONW, ButtonText(4).c_str(), BS_PUSHBUTTON | WS_TABSTOP,
+                                 {desktopLeft, top, room.right, bottom}, kDesktopId);
+            break;
+        }
         }
         rows_.push_back(row);
         top += font.Y(kRowHeight);
         ++id;
         if (def.field == HotspotField::Y2) { // the area can be dragged instead of typed
-            selectArea_ = MakeChild(panel, WC_BUTTONW, L"&Select Area...", BS_PUSHBUTTON | WS_TABSTOP,
+            selectArea_ = MakeChild(panel, WC_BUTTONW, ButtonText(3).c_str(), BS_PUSHBUTTON | WS_TABSTOP,
                                     {fieldLeft, top, fieldLeft + font.X(70), top + font.Y(kRowHeight - 2)}, kSelectAreaId);
             top += font.Y(kRowHeight);
         }
@@ -217,13 +246,16 @@ void HotspotsPage::ShowHotspot() {
         }
         if (row.field == HotspotField::Target)
             ::SetWindowTextW(row.label, (Win::Widen(Preferences::TargetLabel(hotspot.Type)) + L":").c_str());
-        ::EnableWindow(row.control, enabled);
-        if (row.label)
-            ::EnableWindow(row.label, enabled);
+        for (HWND part : {row.label, row.control, row.button})
+            if (part)
+                ::EnableWindow(part, enabled);
     }
     const bool browses = hotspot.Type == Hotspots::kShowFolder || hotspot.Type == Hotspots::kRunProgram;
     ::EnableWindow(browse_, browses);
-    ::EnableWindow(selectArea_, Preferences::FieldEnabled(hotspot, HotspotField::X1));
+    const bool hasArea = Preferences::FieldEnabled(hotspot, HotspotField::X1);
+    ::EnableWindow(selectArea_, hasArea);
+    ::EnableWindow(picker_->hwnd(), hasArea);
+    ::EnableWindow(desktop_, hasArea);
     SetNote(Preferences::HotKeyClash(working_, selected_).value_or(""));
     showing_ = false;
 }
@@ -240,6 +272,10 @@ bool HotspotsPage::Command(int id, int code) {
     case kDeleteId:
     case kBrowseId:
     case kSelectAreaId:
+    case kDesktopId:
+    case kZonesId:
+    case kThemeBrowseId:
+    case kSoundBrowseId:
         if (code != BN_CLICKED)
             return true;
         if (id == kAddId)
@@ -248,8 +284,14 @@ bool HotspotsPage::Command(int id, int code) {
             cmdDelete_Click();
         else if (id == kBrowseId)
             cmdBrowse_Click();
-        else
+        else if (id == kSelectAreaId)
             cmdSelectArea_Click();
+        else if (id == kZonesId)
+            zones_.Show(::GetAncestor(panel_, GA_ROOT), working_.HotSpots);
+        else if (id == kThemeBrowseId || id == kSoundBrowseId)
+            cmdBrowseLook_Click(id == kThemeBrowseId ? HotspotField::Theme : HotspotField::Sound);
+        else
+            SetApplication(std::string(Hotspots::kDesktopApp));
         return true;
     default:
         break;
@@ -360,6 +402,20 @@ void HotspotsPage::cmdBrowse_Click() {
     Changed();
 }
 
+// The menu's theme is a folder; its sound a wave file.
+void HotspotsPage::cmdBrowseLook_Click(HotspotField field) {
+    HotspotRec& hotspot = Selected();
+    HWND owner = ::GetAncestor(panel_, GA_ROOT);
+    std::optional<std::string> picked = field == HotspotField::Theme
+                                            ? PickFolder(owner, hotspot.Theme)
+                                            : PickFile(owner, hotspot.SoundPath, L"Sounds", L"*.wav");
+    if (!picked)
+        return;
+    Preferences::SetFieldText(hotspot, field, *picked);
+    ShowHotspot();
+    Changed();
+}
+
 void HotspotsPage::cmdSelectArea_Click() {
     std::optional<RECT> area = Form3::PickArea(::GetAncestor(panel_, GA_ROOT));
     if (!area)
@@ -369,6 +425,33 @@ void HotspotsPage::cmdSelectArea_Click() {
     Preferences::SetFieldText(hotspot, HotspotField::Y1, std::to_string(area->top));
     Preferences::SetFieldText(hotspot, HotspotField::X2, std::to_string(area->right));
     Preferences::SetFieldText(hotspot, HotspotField::Y2, std::to_string(area->bottom));
+    ShowHotspot();
+    Changed();
+}
+
+Preferences::PickedApplication HotspotsPage::PickAt(HWND under) const {
+    auto handle = [](std::uintptr_t window) { return reinterpret_cast<HWND>(window); };
+    Hotspots::WindowLookup lookup{
+        [&](std::uintptr_t window) { return HotspotWindows::TitleOf(handle(window)); },
+        [&](std::uintptr_t window) {
+            return reinterpret_cast<std::uintptr_t>(::GetAncestor(handle(window), GA_PARENT));
+        },
+        reinterpret_cast<std::uintptr_t>(::GetDesktopWindow())};
+    return Preferences::PickApplication(reinterpret_cast<std::uintptr_t>(under), lookup,
+                                        [&](std::uintptr_t window) { return HotspotWindows::IsOurs(handle(window)); });
+}
+
+void HotspotsPage::Picker_Dropped(HWND under) {
+    Preferences::PickedApplication picked = PickAt(under);
+    if (picked.app.empty()) {
+        SetNote(picked.refusal);
+        return;
+    }
+    SetApplication(picked.app);
+}
+
+void HotspotsPage::SetApplication(const std::string& app) {
+    Preferences::SetFieldText(Selected(), HotspotField::Application, app);
     ShowHotspot();
     Changed();
 }

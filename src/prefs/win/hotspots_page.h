@@ -1,17 +1,22 @@
 // The hotspots page's own part: the list of hotspots ("Default", "Hotspot 1" ...) with Add
 // and Delete, and under it every field of the selected hotspot. Fields that the hotspot's
 // action or mouse event does not use are greyed; the area can be dragged on a frozen
-// copy of the screen.
+// copy of the screen, and the application taken from a window by dragging a picker onto it;
+// the zones of all hotspots can be shown on the screen.
 #pragma once
 
 #include "core/settings.h"
 #include "desktop/command_table.h"
+#include "prefs/application_picker.h"
 #include "prefs/hotspot_fields.h"
 #include "prefs/win/dialog_font.h"
+#include "prefs/win/window_picker.h"
+#include "prefs/win/zone_overlay.h"
 
 #include <windows.h>
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -38,6 +43,7 @@ private:
         Preferences::HotspotField field;
         HWND label = nullptr;
         HWND control = nullptr;
+        HWND button = nullptr; // a Browse button of its own
     };
 
     HotspotRec& Selected();
@@ -49,6 +55,10 @@ private:
     void cmdDelete_Click();
     void cmdBrowse_Click();
     void cmdSelectArea_Click();
+    void cmdBrowseLook_Click(Preferences::HotspotField field);
+    Preferences::PickedApplication PickAt(HWND under) const;
+    void Picker_Dropped(HWND under);
+    void SetApplication(const std::string& app);
     void SetNote(const std::string& note);
     void Changed();
 
@@ -63,6 +73,9 @@ private:
     HWND note_ = nullptr;
     HWND browse_ = nullptr;
     HWND selectArea_ = nullptr;
+    HWND desktop_ = nullptr;
+    std::unique_ptr<WindowPicker> picker_;
+    ZoneOverlay zones_;
     std::vector<Row> rows_;
 };
 

@@ -5,6 +5,7 @@
 #include "desktop/win/shell_actions.h"
 #include "prefs/preference_pages.h"
 #include "prefs/preference_writes.h"
+#include "prefs/user_tasks.h"
 #include "prefs/win/about_page.h"
 #include "win/text_convert.h"
 
@@ -98,6 +99,8 @@ void PreferencesWindow::CreatePages() {
             rooms.push_back({"Sounds", SoundEvents::kRoomHeight});
         if (def.page == PrefPage::Global)
             rooms.push_back({"Start-up", StartupHotspots::kRoomHeight});
+        if (def.page == PrefPage::TasklistSystray)
+            rooms.push_back({kUserTasksGroup, UserTasksRoom::kRoomHeight});
         if (def.page == PrefPage::Hotspots)
             rooms.push_back({"Hotspots", HotspotsPage::kRoomHeight});
         if (def.page == PrefPage::MenuEditor)
@@ -114,6 +117,13 @@ void PreferencesWindow::CreatePages() {
             startupHotspots_ = std::make_unique<StartupHotspots>(page->hwnd(), page->Room("Start-up"), font_,
                                                                  working_, [this] { Working_Changed(); });
             page->roomCommands = [this](int id, int code) { return startupHotspots_->Command(id, code); };
+            SetFontOfChildren(page->hwnd(), font_.get());
+        }
+        if (def.page == PrefPage::TasklistSystray) {
+            userTasks_ = std::make_unique<UserTasksRoom>(page->hwnd(), page->Room(kUserTasksGroup), font_, working_,
+                                                         [this] { Working_Changed(); });
+            page->roomCommands = [this](int id, int code) { return userTasks_->Command(id, code); };
+            page->roomNotes = {userTasks_->note()};
             SetFontOfChildren(page->hwnd(), font_.get());
         }
         if (def.page == PrefPage::Hotspots) {
@@ -274,6 +284,8 @@ void PreferencesWindow::cmdRevert_Click() {
         startupHotspots_->Refresh();
     if (hotspotsPage_)
         hotspotsPage_->Refresh();
+    if (userTasks_)
+        userTasks_->Refresh();
     if (menuEditor_)
         menuEditor_->Refresh();
     if (!(before == program_.settings))

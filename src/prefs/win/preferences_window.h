@@ -13,6 +13,7 @@
 #include "prefs/win/preview_menu.h"
 #include "prefs/win/sound_events.h"
 #include "prefs/win/startup_hotspots.h"
+#include "prefs/win/user_tasks_room.h"
 #include "win/form_window.h"
 #include "win/handles.h"
 
@@ -81,6 +82,7 @@ private:
     std::unique_ptr<SoundEvents> soundEvents_;
     std::unique_ptr<StartupHotspots> startupHotspots_;
     std::unique_ptr<HotspotsPage> hotspotsPage_;
+    std::unique_ptr<UserTasksRoom> userTasks_;
     std::unique_ptr<MenuEditorPage> menuEditor_;
     PreviewMenu preview_;
     POINT previewTopLeft_{}; // in client pixels

@@ -1,9 +1,11 @@
 // The preferences controls of the catalogue: what the table cannot check by itself at
 // compile time, because it needs the pages' groups or looks across rows.
 #include "core/settings_catalogue.h"
+#include "prefs/hotspot_fields.h"
 #include "prefs/menu_editor.h"
 #include "prefs/preference_pages.h"
 #include "prefs/sound_page.h"
+#include "prefs/user_tasks.h"
 
 #include <gtest/gtest.h>
 
@@ -31,6 +33,7 @@ const std::set<std::string_view> kWithoutControl = {
 // Groups that the page fills itself rather than with catalogue keys.
 const std::set<std::pair<PrefPage, std::string_view>> kGroupsOfTheirOwn = {{PrefPage::SoundAnimation, "Sounds"},
                                                                          {PrefPage::Hotspots, "Hotspots"},
+                                                                         {PrefPage::TasklistSystray, "User tasks"},
                                                                          {PrefPage::MenuEditor, "Menus"}};
 
 bool Shown(const SettingDef& def) {
@@ -76,8 +79,8 @@ TEST(SettingsControls, EveryControlStandsInAGroupOfItsPageAndNoGroupStaysEmpty) 
 }
 
 // A mnemonic is one '&' before a letter or digit, used once on its page: a second use would
-// make Alt+letter stop at the first control only; the window's buttons (and the sound page's
-// own) are on every page. Labels in one group must differ to be told apart.
+// make Alt+letter stop at the first control only; the window's buttons are on every page,
+// and the pages that make their own controls (sounds, menus, hotspots, user tasks) name them in core. Labels in one group must differ to be told apart.
 TEST(SettingsControls, LabelsAreDistinctAndMnemonicsUniquePerPage) {
     std::map<std::pair<PrefPage, char>, std::string_view> mnemonics;
     auto reserve = [&](PrefPage page, std::span<const std::string_view> buttons) {
@@ -92,6 +95,9 @@ TEST(SettingsControls, LabelsAreDistinctAndMnemonicsUniquePerPage) {
         reserve(page.page, Preferences::kWindowButtons);
     reserve(PrefPage::SoundAnimation, Preferences::kSoundButtons);
     reserve(PrefPage::MenuEditor, MenuEditor::kButtons);
+    reserve(PrefPage::Hotspots, Preferences::kHotspotFieldLabels);
+    reserve(PrefPage::Hotspots, Preferences::kHotspotButtons);
+    reserve(PrefPage::TasklistSystray, Preferences::kUserTaskLabels);
     std::set<std::tuple<PrefPage, std::string_view, std::string>> labels;
     for (const SettingDef& def : SettingsCatalogue()) {
         if (!Shown(def))
