@@ -66,6 +66,13 @@ bool Blank(std::string_view text) {
 
 } // namespace
 
+std::vector<std::string> MenuNames(const MenuTable& table) {
+    std::vector<std::string> names;
+    for (std::int32_t menu = 0; menu < table.MenuCount(); ++menu)
+        names.push_back(table.menus[static_cast<std::size_t>(menu) + 1].NAME);
+    return names;
+}
+
 std::string MenuText(const MenuTable& table, std::int32_t menu) {
     if (!MenuExists(table, menu))
         return {};

@@ -40,6 +40,9 @@ struct Place {
     bool operator==(const Place&) const = default;
 };
 
+// The names of the menus, in their order: what a hotspot can show.
+std::vector<std::string> MenuNames(const MenuTable& table);
+
 // The text of a tree row. A "Menu Name" item names the menu it opens.
 std::string MenuText(const MenuTable& table, std::int32_t menu);
 std::string ItemText(const MenuItemRec& item);

@@ -194,6 +194,11 @@ void HotspotsPage::Refresh() {
     ShowHotspot();
 }
 
+void HotspotsPage::SetMenuNames(std::vector<std::string> menuNames) {
+    menuNames_ = std::move(menuNames);
+    ShowHotspot();
+}
+
 void HotspotsPage::FillList() {
     ::SendMessageW(list_, LB_RESETCONTENT, 0, 0);
     for (int index = 0; index <= working_.NoOfHotSpots(); ++index)

@@ -35,6 +35,8 @@ public:
 
     // Shows the working copy's hotspots again.
     void Refresh();
+    // The menus a Show Menu hotspot can open now (the menu editor changed them).
+    void SetMenuNames(std::vector<std::string> menuNames);
     // A command of one of its controls; false when it is none of them.
     bool Command(int id, int code);
 

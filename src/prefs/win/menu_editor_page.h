@@ -41,6 +41,7 @@ public:
     // The program's menus again, the working copy's changes dropped.
     void Refresh();
     bool Dirty() const;
+    const MenuTable& Working() const { return working_; }
     // Puts the working copy in the program's place and writes the menu file; true when
     // there was nothing to write or it was written.
     bool Apply();

@@ -127,11 +127,8 @@ void PreferencesWindow::CreatePages() {
             SetFontOfChildren(page->hwnd(), font_.get());
         }
         if (def.page == PrefPage::Hotspots) {
-            std::vector<std::string> menuNames;
-            for (std::size_t menu = 1; menu < program_.menus.menus.size(); ++menu)
-                menuNames.push_back(program_.menus.menus[menu].NAME);
             hotspotsPage_ = std::make_unique<HotspotsPage>(page->hwnd(), page->Room("Hotspots"), font_, working_,
-                                                           std::move(menuNames), program_.commandTable,
+                                                           MenuEditor::MenuNames(program_.menus), program_.commandTable,
                                                            [this] { Working_Changed(); });
             page->roomCommands = [this](int id, int code) { return hotspotsPage_->Command(id, code); };
             SetFontOfChildren(page->hwnd(), font_.get());
@@ -151,11 +148,18 @@ void PreferencesWindow::MakeMenuEditor(PreferencePage& page) {
             hotspotsPage_->Refresh();
     };
     menuEditor_ = std::make_unique<MenuEditorPage>(page.hwnd(), page.Room("Menus"), font_, program_,
-                                                   [this] { Working_Changed(); }, renamed);
+                                                   [this] { Menus_Changed(); }, renamed);
     page.roomCommands = [this](int id, int code) { return menuEditor_->Command(id, code); };
     page.roomNotify = [this](const NMHDR& header) { return menuEditor_->Notify(header); };
     page.roomNotes = {menuEditor_->note()};
     SetFontOfChildren(page.hwnd(), font_.get());
+}
+
+// The hotspots page offers the menus as the editor has them.
+void PreferencesWindow::Menus_Changed() {
+    if (hotspotsPage_ && menuEditor_)
+        hotspotsPage_->SetMenuNames(MenuEditor::MenuNames(menuEditor_->Working()));
+    Working_Changed();
 }
 
 // The page list and the buttons keep their size; the page and the preview share what is left.
@@ -290,7 +294,7 @@ void PreferencesWindow::cmdRevert_Click() {
         menuEditor_->Refresh();
     if (!(before == program_.settings))
         host_.SettingsApplied(before);
-    Working_Changed();
+    Menus_Changed();
 }
 
 void PreferencesWindow::cmdHelp_Click() {

@@ -65,6 +65,7 @@ private:
     void Form_NextDlgCtl(WPARAM which, LPARAM direct);
     void ShowPage(int index);
     void Working_Changed();
+    void Menus_Changed();
     void UpdatePreview();
     bool Dirty() const;
     void cmdOK_Click();

@@ -191,6 +191,12 @@ TEST_F(MenuEditor, AMenuOfAProgramAFolderAndASubMenuMadeOnThePageIsSavedOnOKAndO
     SetText(edit, "Office");
     PressKey(VK_RETURN);
     ASSERT_TRUE(WaitUntil([&] { return !::IsWindow(edit); }, 10s));
+    // The Hotspots page offers the new menu at once: Main, Tools, Games and Office.
+    ASSERT_TRUE(ShowPreferencePage(window, "Hotspots"));
+    std::optional<WindowInfo> menus = ControlBesideLabel(window, "Menu Name:", "ComboBox");
+    ASSERT_TRUE(menus);
+    EXPECT_EQ(::SendMessageW(menus->hwnd, CB_GETCOUNT, 0, 0), 4);
+    ASSERT_TRUE(ShowPreferencePage(window, "Menu Editor"));
 
     ASSERT_NO_FATAL_FAILURE(AddItemThroughDialog(window, 0, "Write", SystemFile("cmd.exe"), "/c cd > started.txt",
                                                  work.path(), "item-dialog-filename"));

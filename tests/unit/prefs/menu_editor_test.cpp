@@ -184,6 +184,7 @@ TEST(MenuEditor, NewMenusGetFreeNamesAndRenamingCarriesTheItemsThatOpenIt) {
     EXPECT_EQ(MenuText(table, AddMenu(table).place.menu), "NewMenu2");
     EXPECT_FALSE(RenameMenu(table, 2, "newmenu2").Done());
     ASSERT_TRUE(RenameMenu(table, 1, "Tools").Done());
+    EXPECT_EQ(MenuNames(table), (std::vector<std::string>{"Main", "Tools", "NewMenu1", "NewMenu2"}));
     EXPECT_EQ(MenuText(table, 1), "Tools");
     EXPECT_EQ(table.pool[DataManager::FindItem(table, 0, 3)].PATH, "Tools");
     EXPECT_EQ(ItemText(table.pool[DataManager::FindItem(table, 0, 3)]), "Go  \xE2\x86\x92 Tools");
