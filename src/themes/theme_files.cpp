@@ -27,6 +27,7 @@ std::vector<std::string> MakePictureFiles() {
                 add({stem}, {std::string(state).append(extension)});
     add({"UpArrow", "LfArrow", "RgArrow"}, {"A.ico", "I.ico"});
     add({"DnArrow", "HzArrow", "Arrow", "ComSymb"}, {"A.ico", "I.ico", "AS.ico", "IS.ico"});
+    names.emplace_back("Systray.ico"); // the systray copy's button draws it from the theme too
     return names;
 }
 
@@ -37,8 +38,7 @@ bool IsDeviceName(std::string_view name) {
     for (std::string_view device : {"CON", "PRN", "AUX", "NUL"})
         if (stem == device)
             return true;
-    return stem.size() == 4 && (stem.starts_with("COM") || stem.starts_with("LPT")) && stem[3] >= '1' &&
-           stem[3] <= '9';
+    return stem.size() == 4 && (stem.starts_with("COM") || stem.starts_with("LPT")) && stem[3] >= '1' && stem[3] <= '9';
 }
 
 bool EndsWithIgnoreCase(std::string_view s, std::string_view end) {
