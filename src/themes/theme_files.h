@@ -71,14 +71,14 @@ struct Box {
 inline constexpr std::string_view kTitle = "Tarvex";
 
 Box SaveWithoutName();
-Box SaveOverwrite();                                  // Yes overwrites
+Box SaveOverwrite(); // Yes overwrites
 Box LoadWithoutName();
 Box DeleteWithoutName();
-Box DeleteQuestion(std::string_view name);            // OK deletes
+Box DeleteQuestion(std::string_view name); // OK deletes
 Box BadName(std::string_view name);
 Box ThemeFileMissing(std::string_view themeFile);
 Box NotWritten(std::string_view name, std::string_view path);
 Box NotAllDeleted(std::string_view name);
-Box TwoWallpapers();                                  // Yes deletes the BMP one
+Box TwoWallpapers(); // Yes deletes the BMP one
 
 } // namespace ThemeFiles

@@ -73,7 +73,7 @@ bool IsValidUtf8(std::string_view bytes) {
     for (std::size_t i = 0; i < bytes.size();) {
         auto byte = [&](std::size_t at) { return static_cast<unsigned char>(bytes[at]); };
         unsigned char lead = byte(i);
-        std::size_t length = lead < 0x80                ? 1
+        std::size_t length = lead < 0x80             ? 1
                              : (lead & 0xE0) == 0xC0 ? 2
                              : (lead & 0xF0) == 0xE0 ? 3
                              : (lead & 0xF8) == 0xF0 ? 4

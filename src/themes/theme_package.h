@@ -41,12 +41,12 @@ struct Plan {
     std::string refusal;   // non-empty: the package is refused whole, and this says why
     std::string themeName; // the single top folder, or the zip's name when files stand at the top
     struct File {
-        std::size_t entry;    // index into the entries
-        std::string path;     // inside the theme folder, backslashes between its parts
+        std::size_t entry; // index into the entries
+        std::string path;  // inside the theme folder, backslashes between its parts
     };
-    std::vector<File> files;          // folder entries are left out: folders come with their files
-    std::vector<std::string> fonts;   // paths of the fonts, which Load theme installs
-    std::vector<std::size_t> texts;   // indexes into files: shown to the user before anything is used
+    std::vector<File> files;        // folder entries are left out: folders come with their files
+    std::vector<std::string> fonts; // paths of the fonts, which Load theme installs
+    std::vector<std::size_t> texts; // indexes into files: shown to the user before anything is used
 };
 
 // The plan for a zip file (its name, for a theme named after it) with these entries.
@@ -92,7 +92,7 @@ std::string AutoInstallNote();
 ThemeFiles::Box NotMovedAside(std::string_view zipFileName);
 ThemeFiles::Box ShowText(std::string_view fileName, std::string_view text);                   // OK goes on
 ThemeFiles::Box FontsWarning(std::string_view themeName, std::span<const std::string> fonts); // OK goes on
-ThemeFiles::Box ReplaceTheme(std::string_view themeName, std::string_view zipFileName);      // Yes replaces
+ThemeFiles::Box ReplaceTheme(std::string_view themeName, std::string_view zipFileName);       // Yes replaces
 ThemeFiles::Box ExportWithoutName();
 ThemeFiles::Box ReplaceExport(std::string_view zipPath); // Yes replaces
 ThemeFiles::Box ExportFailed(std::string_view themeName, std::string_view zipPath);

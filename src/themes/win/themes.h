@@ -22,12 +22,15 @@
 //   ExportTheme    packs Themes\<name>\ into Export\<name>.zip, its files under a top
 //                  folder <name>/, after offering to delete a second wallpaper.
 //   ImportPackage  unpacks a zip as Themes\<theme>\, where <theme> is the zip's one top
-//                  folder or else the zip's name. Refused whole, writing nothing: a broken
+//                  folder or else the zip's name (the one .wst at the theme's top takes
+//                  that name, so Load theme finds it). Refused whole, writing nothing: a broken
 //                  zip, more than 5,000 entries or 200 MB, an entry that would land outside
 //                  the theme folder or is a link. Before anything is written it shows the
 //                  package's text files, warns of its fonts and asks before replacing a
 //                  theme (unless GenUnzipAlwaysOverwrite); it unpacks beside the Themes
 //                  folder's themes and moves the theme into place only when it is whole.
+//                  A folder under Themes whose name starts with "~" and ends in
+//                  ".unpacking" or ".replaced" is such a move cut short, not a theme.
 //   InstallWaitingPackages  start-up: imports every zip of the AutoInstall folder, in
 //                  name order; each one then moves to AutoInstall\Installed or, refused,
 //                  broken or declined, to AutoInstall\Not installed, so no package is
@@ -36,7 +39,7 @@
 //
 // Outcome: Done when the job was done; Declined when the user said no or the request was
 // refused with its message (nothing changed then); Failed when files could not be read
-// or written (told in a message box).
+// or written, or a package is damaged (told in a message box).
 #pragma once
 
 #include "core/program_values.h"

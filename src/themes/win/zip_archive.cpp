@@ -68,8 +68,8 @@ std::optional<std::vector<ThemePackage::Entry>> ZipReader::Entries(std::uint64_t
             ::unzGetFilePos64(zip_.get(), &position) != UNZ_OK)
             return std::nullopt;
         std::string_view raw(name.data(), std::min<std::size_t>(info.size_filename, name.size()));
-        entries.push_back({EntryName(raw, info.flag), info.uncompressed_size,
-                           ThemePackage::IsLink(info.version, info.external_fa)});
+        entries.push_back(
+            {EntryName(raw, info.flag), info.uncompressed_size, ThemePackage::IsLink(info.version, info.external_fa)});
         places_.push_back({position, info.uncompressed_size, info.dosDate});
         if (entries.size() > limit)
             return entries;
@@ -88,8 +88,8 @@ bool ZipReader::Open(std::size_t index) {
 ZipReader::Result ZipReader::Extract(std::size_t index, std::string_view path) {
     if (!Open(index))
         return Result::Broken;
-    Win::UniqueFileHandle out(::CreateFileW(Win::Widen(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                            FILE_ATTRIBUTE_NORMAL, nullptr));
+    Win::UniqueFileHandle out(
+        ::CreateFileW(Win::Widen(path).c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
     Result result = out ? Result::Ok : Result::NotWritten;
     std::vector<char> buffer(kChunk);
     std::uint64_t total = 0;
@@ -145,10 +145,10 @@ bool ZipWriter::Begin(std::string_view entryName, std::uint32_t dosDate, bool la
     zip_fileinfo info{};
     info.dosDate = dosDate;
     std::string name(entryName);
-    return zip_ && ::zipOpenNewFileInZip4_64(zip_.get(), name.c_str(), &info, nullptr, 0, nullptr, 0, nullptr,
-                                             Z_DEFLATED, Z_DEFAULT_COMPRESSION, 0, -MAX_WBITS, DEF_MEM_LEVEL,
-                                             Z_DEFAULT_STRATEGY, nullptr, 0, kMadeByFat20, kUtf8NameFlag,
-                                             large ? 1 : 0) == ZIP_OK;
+    return zip_ &&
+           ::zipOpenNewFileInZip4_64(zip_.get(), name.c_str(), &info, nullptr, 0, nullptr, 0, nullptr, Z_DEFLATED,
+                                     Z_DEFAULT_COMPRESSION, 0, -MAX_WBITS, DEF_MEM_LEVEL, Z_DEFAULT_STRATEGY, nullptr,
+                                     0, kMadeByFat20, kUtf8NameFlag, large ? 1 : 0) == ZIP_OK;
 }
 
 bool ZipWriter::Add(std::string_view entryName, std::string_view bytes) {

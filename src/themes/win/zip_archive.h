@@ -20,8 +20,12 @@
 namespace ThemeZip {
 
 namespace Detail {
-inline void CloseUnzip(unzFile file) { ::unzClose(file); }
-inline void CloseZip(zipFile file) { ::zipClose(file, nullptr); }
+inline void CloseUnzip(unzFile file) {
+    ::unzClose(file);
+}
+inline void CloseZip(zipFile file) {
+    ::zipClose(file, nullptr);
+}
 } // namespace Detail
 
 using UniqueUnzip = Win::UniqueHandle<unzFile, Detail::CloseUnzip>;

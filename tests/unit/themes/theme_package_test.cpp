@@ -39,8 +39,8 @@ TEST(ThemePackage, EntriesThatWouldLandOutsideTheThemeFolderAreUnsafe) {
 }
 
 TEST(ThemePackage, ASingleTopFolderNamesTheThemeAndIsLeftOut) {
-    std::vector<Entry> entries = Files({"Blue/", "Blue/Blue.wst", "blue/TitleA.bmp", "Blue/Readme.txt",
-                                        "Blue/Sky.ttf", "Blue/extra/Deep.ttf", "Blue/extra/"});
+    std::vector<Entry> entries = Files({"Blue/", "Blue/Blue.wst", "blue/TitleA.bmp", "Blue/Readme.txt", "Blue/Sky.ttf",
+                                        "Blue/extra/Deep.ttf", "Blue/extra/"});
     Plan plan = PlanImport("blue-1.2.zip", entries);
     EXPECT_EQ(plan.refusal, "");
     EXPECT_EQ(plan.themeName, "Blue");
@@ -58,7 +58,8 @@ TEST(ThemePackage, FilesAtTheTopTakeTheZipsNameAndTheOneThemeFileWithIt) {
     EXPECT_EQ(top.texts, std::vector<std::size_t>{2});
     Plan twoFolders = PlanImport("Pair.zip", Files({"A/A.wst", "B/B.wst"}));
     EXPECT_EQ(twoFolders.themeName, "Pair");
-    EXPECT_EQ(PathsOf(twoFolders), (std::vector<std::string>{"A\\A.wst", "B\\B.wst"})) << "no lone theme file at the top";
+    EXPECT_EQ(PathsOf(twoFolders), (std::vector<std::string>{"A\\A.wst", "B\\B.wst"}))
+        << "no lone theme file at the top";
 }
 
 TEST(ThemePackage, RefusedWholeWithAReason) {
@@ -88,15 +89,15 @@ TEST(ThemePackage, TextsAreShownShortAndDecodedByWhatTheyHold) {
     std::string lines;
     for (int i = 1; i <= 50; ++i)
         lines += "line " + std::to_string(i) + "\r\n";
-    std::string shown = ShownText(lines);
-    EXPECT_EQ(std::count(shown.begin(), shown.end(), '\n'), 40);
-    EXPECT_TRUE(shown.ends_with("line 40\n...")) << shown;
+    EXPECT_TRUE(ShownText(lines).ends_with("line 39\nline 40\n...")) << ShownText(lines);
     EXPECT_EQ(ShownText(std::string(3000, 'x')), std::string(2000, 'x') + "\n...");
     EXPECT_EQ(ShownText("\xEF\xBB\xBFOne\r\nTwo\r\n\r\n"), "One\nTwo");
-    EXPECT_EQ(EncodingOf("\xFF\xFEO\0"), TextEncoding::Utf16Le);
-    EXPECT_EQ(EncodingOf("h\xC3\xA9llo"), TextEncoding::Utf8);
-    EXPECT_EQ(EncodingOf("caf\xC3"), TextEncoding::Utf8) << "read in part, cut inside a character";
-    EXPECT_EQ(EncodingOf("\xE9t\xE9 ok"), TextEncoding::Ansi);
+    const std::pair<std::string_view, TextEncoding> encodings[] = {{"\xFF\xFEO\0", TextEncoding::Utf16Le},
+                                                                   {"h\xC3\xA9llo", TextEncoding::Utf8},
+                                                                   {"cut inside a character \xC3", TextEncoding::Utf8},
+                                                                   {"\xE9t\xE9 ok", TextEncoding::Ansi}};
+    for (const auto& [bytes, encoding] : encodings)
+        EXPECT_EQ(EncodingOf(bytes), encoding) << bytes;
 }
 
 TEST(ThemePackage, ExportNamesAndTheAutoInstallFolder) {
