@@ -151,19 +151,6 @@ bool ZipWriter::Begin(std::string_view entryName, std::uint32_t dosDate, bool la
                                      0, kMadeByFat20, kUtf8NameFlag, large ? 1 : 0) == ZIP_OK;
 }
 
-bool ZipWriter::Add(std::string_view entryName, std::string_view bytes) {
-    FILETIME now{};
-    ::GetSystemTimeAsFileTime(&now);
-    if (!Begin(entryName, DosDateOf(now), bytes.size() >= 0xFFFFFFFFu))
-        return false;
-    bool written = true;
-    for (std::size_t at = 0; written && at < bytes.size(); at += kChunk) {
-        std::size_t length = std::min(kChunk, bytes.size() - at);
-        written = ::zipWriteInFileInZip(zip_.get(), bytes.data() + at, static_cast<unsigned>(length)) == ZIP_OK;
-    }
-    return ::zipCloseFileInZip(zip_.get()) == ZIP_OK && written;
-}
-
 bool ZipWriter::AddFile(std::string_view entryName, std::string_view filePath) {
     Win::UniqueFileHandle in(::CreateFileW(Win::Widen(filePath).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
                                            OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));

@@ -68,9 +68,8 @@ public:
     explicit ZipWriter(std::string_view path);
     bool created() const { return static_cast<bool>(zip_); }
 
-    // Adds an entry under the name (UTF-8, flagged so), holding the bytes or a file's
-    // contents with the file's date. False when it could not be written.
-    bool Add(std::string_view entryName, std::string_view bytes);
+    // Adds an entry under the name (UTF-8, flagged so) holding a file's contents, with
+    // the file's date. False when it could not be written.
     bool AddFile(std::string_view entryName, std::string_view filePath);
     // Writes the central directory; false when the zip could not be finished.
     bool Close();

@@ -19,9 +19,11 @@ constexpr const char* kAlphaTheme = "[TARVEX]\r\nTitleColor=255\r\nGenThemeName=
 constexpr const char* kBetaTheme = "[TARVEX]\r\nTitleColor=65280\r\nGenThemeName=Beta\r\n";
 
 bool WriteZip(const std::string& path, const std::map<std::string, std::string>& entries) {
+    TempFolder files;
     ThemeZip::ZipWriter zip(path);
     for (const auto& [name, bytes] : entries) {
-        if (!zip.Add(name, bytes))
+        files.WriteBytes("entry", bytes);
+        if (!zip.AddFile(name, files.File("entry")))
             return false;
     }
     return zip.Close();

@@ -54,8 +54,11 @@ protected:
     }
     void WriteZip(const std::string& path, Files entries) const {
         ThemeZip::ZipWriter zip(path);
-        for (const auto& [name, bytes] : entries)
-            ASSERT_TRUE(zip.Add(name, bytes));
+        for (const auto& [name, bytes] : entries) {
+            WriteBytes(folder.File("entry"), bytes);
+            ASSERT_TRUE(zip.AddFile(name, folder.File("entry")));
+        }
+        ::DeleteFileW(Win::Widen(folder.File("entry")).c_str());
         ASSERT_TRUE(zip.Close());
     }
 
