@@ -11,6 +11,7 @@ namespace MessageBoxes {
 
 // Style bits, as the numbers the program uses (16 critical, 52 = Yes/No + exclamation).
 inline constexpr int kOkOnly = 0;
+inline constexpr int kOkCancel = 1;
 inline constexpr int kYesNo = 4;
 inline constexpr int kCritical = 16;
 inline constexpr int kQuestion = 32;

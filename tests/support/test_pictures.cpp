@@ -1,8 +1,16 @@
 #include "support/test_pictures.h"
 
+#include "menuwindow/win/gdiplus_session.h"
 #include "support/temp_folder.h"
+#include "win/text_convert.h"
+
+#include <objidl.h>
+
+#include <gdiplus.h>
 
 #include <cstdint>
+#include <string_view>
+#include <vector>
 
 namespace TestSupport {
 
@@ -81,6 +89,30 @@ void WriteIcon(const std::string& path, int side, COLORREF colour) {
     }
     bytes.append(static_cast<std::size_t>(maskRow * side), '\0');
     TestSupport::WriteBytes(path, bytes);
+}
+
+bool WriteJpeg(const std::string& path, int width, int height, COLORREF colour) {
+    if (!MenuWindow::EnsureGdiplus())
+        return false;
+    UINT count = 0;
+    UINT bytes = 0;
+    if (Gdiplus::GetImageEncodersSize(&count, &bytes) != Gdiplus::Ok || bytes == 0)
+        return false;
+    std::vector<BYTE> buffer(bytes);
+    auto* codecs = reinterpret_cast<Gdiplus::ImageCodecInfo*>(buffer.data());
+    if (Gdiplus::GetImageEncoders(count, bytes, codecs) != Gdiplus::Ok)
+        return false;
+    for (UINT i = 0; i < count; ++i) {
+        if (std::wstring_view(codecs[i].MimeType) != L"image/jpeg")
+            continue;
+        Gdiplus::Bitmap bitmap(width, height, PixelFormat24bppRGB);
+        {
+            Gdiplus::Graphics graphics(&bitmap);
+            graphics.Clear(Gdiplus::Color(255, GetRValue(colour), GetGValue(colour), GetBValue(colour)));
+        }
+        return bitmap.Save(Win::Widen(path).c_str(), &codecs[i].Clsid, nullptr) == Gdiplus::Ok;
+    }
+    return false;
 }
 
 } // namespace TestSupport

@@ -14,6 +14,8 @@ using PixelColour = std::function<COLORREF(int x, int y)>;
 void WriteBmp(const std::string& path, int width, int height, const PixelColour& colour);
 // An icon of one size, fully opaque.
 void WriteIcon(const std::string& path, int side, COLORREF colour);
+// A JPEG file of one colour, encoded by GDI+; false when no JPEG encoder was found.
+bool WriteJpeg(const std::string& path, int width, int height, COLORREF colour);
 
 // Four blocks of 4 x 4 pixels: top-left, top-right, bottom-left, bottom-right.
 struct Quadrants {

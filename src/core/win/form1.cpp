@@ -4,7 +4,6 @@
 #include "core/win/autostart.h"
 #include "core/win/subroutines.h"
 #include "desktop/win/desktop_windows.h"
-#include "menuwindow/win/form2.h"
 #include "win/text_convert.h"
 
 #include <windowsx.h>
@@ -180,13 +179,7 @@ void Form1::SettingsApplied(const SettingsRec& before) {
     const SettingsRec& now = program_.settings;
     {
         BusyScope busy(program_.RebuildBusy);
-        const MenuWindow::CascadeList& records = program_.openMenus.records();
-        for (int index = 1; index <= records.Count(); ++index) {
-            if (Form2* window = program_.openMenus.WindowOf(records.At(index).id)) {
-                window->SetLocalVariables();
-                window->PaintMenu();
-            }
-        }
+        program_.openMenus.RepaintAll();
     }
     if (now.GenShowInTray != before.GenShowInTray) {
         if (now.GenShowInTray)

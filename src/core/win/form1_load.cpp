@@ -10,6 +10,7 @@
 #include "desktop/win/hotspot_opening.h"
 #include "menus/win/startup_menus.h"
 #include "prefs/win/first_run_introduction.h"
+#include "themes/win/themes.h"
 #include "win/text_convert.h"
 
 namespace {
@@ -151,8 +152,11 @@ void Form1::RunFirstRun() {
                              MessageBoxes::kExclamation);
 }
 
-// The theme packages issue fills this: it unpacks each zip package waiting in the auto-install folder.
-void Form1::InstallAutoInstallPackages() {}
+// Every zip package waiting in the auto-install folder becomes a theme; a broken one is
+// told and start-up goes on.
+void Form1::InstallAutoInstallPackages() {
+    Themes::InstallWaitingPackages(program_.values, program_.settings);
+}
 
 void Form1::ApplyDesktopSettings() {
     if (program_.settings.GenHideDesktopIcons)

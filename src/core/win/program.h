@@ -15,16 +15,18 @@
 #include <string>
 #include <vector>
 
-// Sets a busy flag for as long as it lives.
+// Sets a busy flag for as long as it lives, and then puts back what it was: a scope
+// inside another one (a theme loaded while settings are applied) leaves the flag set.
 class BusyScope {
 public:
-    explicit BusyScope(bool& flag) : flag_(flag) { flag_ = true; }
-    ~BusyScope() { flag_ = false; }
+    explicit BusyScope(bool& flag) : flag_(flag), was_(flag) { flag_ = true; }
+    ~BusyScope() { flag_ = was_; }
     BusyScope(const BusyScope&) = delete;
     BusyScope& operator=(const BusyScope&) = delete;
 
 private:
     bool& flag_;
+    bool was_;
 };
 
 struct Program {

@@ -36,6 +36,15 @@ void OpenMenus::Close(int index) {
     records_.Remove(records_.IndexOf(id));
 }
 
+void OpenMenus::RepaintAll() {
+    for (int index = 1; index <= records_.Count(); ++index) {
+        if (Form2* window = WindowOf(records_.At(index).id)) {
+            window->SetLocalVariables();
+            window->PaintMenu();
+        }
+    }
+}
+
 void OpenMenus::CloseAll() {
     closing_ = true;
     while (records_.Count() > 0)

@@ -36,6 +36,9 @@ public:
     void CloseAll();
     // Closes a menu and every menu below it, the deepest first.
     void CloseWithSubMenus(int id);
+    // Every open menu window takes the settings again and repaints itself, in cascade
+    // order: new settings were applied or a theme was loaded.
+    void RepaintAll();
     // A torn-off menu's window goes on under its fresh identifier.
     void Renumber(int id, int freshId);
     // Closes a menu with every menu below it, as a hotspot closes its menu: no window

@@ -3,18 +3,11 @@
 // title-bar button picture falling back to the active one.
 #include "menu_window_fixture.h"
 #include "menuwindow/paint/paint_title_buttons.h"
-#include "menuwindow/win/gdiplus_session.h"
 #include "support/temp_folder.h"
 #include "support/test_pictures.h"
-#include "win/text_convert.h"
-
-#include <objidl.h>
-
-#include <gdiplus.h>
 
 #include <algorithm>
 #include <cstdlib>
-#include <string_view>
 #include <vector>
 
 using namespace MenuWindowTests;
@@ -36,31 +29,6 @@ protected:
 
     TestSupport::TempFolder folder;
 };
-
-// A JPEG file of one colour, encoded by GDI+; false when no JPEG encoder was found.
-bool WriteSolidJpeg(const std::string& path, int width, int height, COLORREF colour) {
-    if (!MenuWindow::EnsureGdiplus())
-        return false;
-    UINT count = 0;
-    UINT bytes = 0;
-    if (Gdiplus::GetImageEncodersSize(&count, &bytes) != Gdiplus::Ok || bytes == 0)
-        return false;
-    std::vector<BYTE> buffer(bytes);
-    auto* codecs = reinterpret_cast<Gdiplus::ImageCodecInfo*>(buffer.data());
-    if (Gdiplus::GetImageEncoders(count, bytes, codecs) != Gdiplus::Ok)
-        return false;
-    for (UINT i = 0; i < count; ++i) {
-        if (std::wstring_view(codecs[i].MimeType) != L"image/jpeg")
-            continue;
-        Gdiplus::Bitmap bitmap(width, height, PixelFormat24bppRGB);
-        {
-            Gdiplus::Graphics graphics(&bitmap);
-            graphics.Clear(Gdiplus::Color(255, GetRValue(colour), GetGValue(colour), GetBValue(colour)));
-        }
-        return bitmap.Save(Win::Widen(path).c_str(), &codecs[i].Clsid, nullptr) == Gdiplus::Ok;
-    }
-    return false;
-}
 
 bool Near(COLORREF a, COLORREF b) {
     return std::abs(GetRValue(a) - GetRValue(b)) <= 6 && std::abs(GetGValue(a) - GetGValue(b)) <= 6 &&
@@ -99,7 +67,7 @@ TEST_F(PicturesTest, ATransparentButtonPictureLetsTheMenuColourThroughItsKeyColo
 }
 
 TEST_F(PicturesTest, AJpegTitlePictureShowsItsColourOverTheBar) {
-    ASSERT_TRUE(WriteSolidJpeg(File("TitleA.jpg"), 16, 16, kGreen));
+    ASSERT_TRUE(WriteJpeg(File("TitleA.jpg"), 16, 16, kGreen));
     settings.TitleBitmap = true;
     Form2* form = Open(MenuRecord(AddMenu("M", {"A long enough label"})));
     ASSERT_TRUE(form);
