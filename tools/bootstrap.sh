@@ -11,7 +11,7 @@ TRIPLES=(x86_64-w64-mingw32 i686-w64-mingw32)
 PACKAGES=(
     g++ cmake ninja-build python3 googletest libgtest-dev dpkg-dev
     g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools
-    wine wine64 xvfb xauth imagemagick fonts-wqy-microhei
+    wine wine64 xvfb xauth imagemagick fonts-wqy-microhei fonts-dejavu-core
 )
 
 say() { echo "bootstrap: $*" >&2; }

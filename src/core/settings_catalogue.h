@@ -36,6 +36,7 @@ enum class PrefPage : std::uint8_t {
     TasklistSystray,
     Hotspots,
     MenuEditor,
+    Themes,
     Global,
     About
 };

@@ -21,6 +21,7 @@ constexpr std::array<std::string_view, 4> kTaskGroups = {"Task list", kUserTasks
                                                          "Systray"};
 constexpr std::array<std::string_view, 1> kHotspotGroups = {"Hotspots"};
 constexpr std::array<std::string_view, 1> kMenuEditorGroups = {"Menus"};
+constexpr std::array<std::string_view, 1> kThemeGroups = {"Themes"};
 constexpr std::array<std::string_view, 6> kGlobalGroups = {"Start-up", "Hot key", "Tray and desktop", "Mouse",
                                                            "Effects",  "Shutting down"};
 
@@ -33,6 +34,7 @@ constexpr std::array kPages = {
     PageDef{PrefPage::TasklistSystray, "Tasklist and Systray", "Tasklist and Systray Preferences", kTaskGroups},
     PageDef{PrefPage::Hotspots, "Hotspots", "Hotspots Definition", kHotspotGroups},
     PageDef{PrefPage::MenuEditor, "Menu Editor", "Menu Editor", kMenuEditorGroups},
+    PageDef{PrefPage::Themes, "Themes", "Themes", kThemeGroups},
     PageDef{PrefPage::Global, "Global", "Global Preferences", kGlobalGroups},
     PageDef{PrefPage::About, "About", "About Tarvex", {}},
 };

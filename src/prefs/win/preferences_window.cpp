@@ -105,6 +105,8 @@ void PreferencesWindow::CreatePages() {
             rooms.push_back({"Hotspots", HotspotsPage::kRoomHeight});
         if (def.page == PrefPage::MenuEditor)
             rooms.push_back({"Menus", MenuEditorPage::kRoomHeight});
+        if (def.page == PrefPage::Themes)
+            rooms.push_back({"Themes", ThemesPage::kRoomHeight});
         if (!page->Create(window_.get(), rooms))
             continue;
         if (def.page == PrefPage::SoundAnimation) {
@@ -135,6 +137,16 @@ void PreferencesWindow::CreatePages() {
         }
         if (def.page == PrefPage::MenuEditor)
             MakeMenuEditor(*page);
+        if (def.page == PrefPage::Themes) {
+            themesPage_ = std::make_unique<ThemesPage>(
+                page->hwnd(), page->Room("Themes"), font_, program_, working_, [this] { Working_Changed(); },
+                [this](const SettingsRec* look) {
+                    themeLook_ = look;
+                    UpdatePreview();
+                });
+            page->roomCommands = [this](int id, int code) { return themesPage_->Command(id, code); };
+            SetFontOfChildren(page->hwnd(), font_.get());
+        }
         if (def.page == PrefPage::About)
             MakeAboutPage(page->hwnd(), font_, program_);
         pages_.push_back(std::move(page));
@@ -203,6 +215,7 @@ void PreferencesWindow::ShowPage(int index) {
     ::SetWindowTextW(heading_, Win::Widen(PageOf(pages_[static_cast<std::size_t>(index)]->page()).heading).c_str());
     for (std::size_t i = 0; i < pages_.size(); ++i)
         ::ShowWindow(pages_[i]->hwnd(), static_cast<int>(i) == index ? SW_SHOWNA : SW_HIDE);
+    UpdatePreview(); // a theme chosen on the Themes page shows on that page alone
 }
 
 void PreferencesWindow::Working_Changed() {
@@ -211,7 +224,8 @@ void PreferencesWindow::Working_Changed() {
 }
 
 void PreferencesWindow::UpdatePreview() {
-    preview_.Show(window_.get(), previewTopLeft_, working_);
+    const bool onThemes = current_ >= 0 && pages_[static_cast<std::size_t>(current_)]->page() == PrefPage::Themes;
+    preview_.Show(window_.get(), previewTopLeft_, onThemes && themeLook_ ? *themeLook_ : working_);
 }
 
 bool PreferencesWindow::Dirty() const {
@@ -292,6 +306,8 @@ void PreferencesWindow::cmdRevert_Click() {
         userTasks_->Refresh();
     if (menuEditor_)
         menuEditor_->Refresh();
+    if (themesPage_)
+        themesPage_->Refresh();
     if (!(before == program_.settings))
         host_.SettingsApplied(before);
     Menus_Changed();

@@ -9,6 +9,7 @@
 #include "prefs/win/dialog_font.h"
 #include "prefs/win/hotspots_page.h"
 #include "prefs/win/menu_editor_page.h"
+#include "prefs/win/themes_page.h"
 #include "prefs/win/preference_page.h"
 #include "prefs/win/preview_menu.h"
 #include "prefs/win/sound_events.h"
@@ -85,6 +86,8 @@ private:
     std::unique_ptr<HotspotsPage> hotspotsPage_;
     std::unique_ptr<UserTasksRoom> userTasks_;
     std::unique_ptr<MenuEditorPage> menuEditor_;
+    std::unique_ptr<ThemesPage> themesPage_;
+    const SettingsRec* themeLook_ = nullptr; // the theme chosen on the Themes page, for the preview
     PreviewMenu preview_;
     POINT previewTopLeft_{}; // in client pixels
     int current_ = -1;

@@ -53,6 +53,15 @@ std::vector<std::string> FileNames(std::string_view folder) {
     return names;
 }
 
+std::vector<std::string> FolderNames(std::string_view folder) {
+    std::vector<std::string> names;
+    for (FolderEnumeration::FolderSearch search(WithBackslash(folder)); search.Next();) {
+        if (IsFolder(search.Entry()) && !IsDots(search.Entry()))
+            names.push_back(Win::Narrow(search.Entry().cFileName));
+    }
+    return names;
+}
+
 std::vector<std::string> FilesBelow(std::string_view folder) {
     std::vector<std::string> files;
     CollectFiles(WithBackslash(folder), "", files);

@@ -10,6 +10,8 @@ namespace FileTree {
 
 // The names of the files (not folders) directly in a folder.
 std::vector<std::string> FileNames(std::string_view folder);
+// The names of the folders directly in a folder.
+std::vector<std::string> FolderNames(std::string_view folder);
 // Every file below a folder, as paths relative to it with backslashes, sorted.
 std::vector<std::string> FilesBelow(std::string_view folder);
 

@@ -111,6 +111,13 @@ protected:
     }
 };
 
+// Fonts the test machine has (tools/bootstrap.sh installs them): a theme with a missing
+// font is loaded with a warning.
+class ThemesPage : public Preferences {
+protected:
+    ThemesPage() { extraSettings = "TitleFont=DejaVu Sans\nButtonFont=DejaVu Sans\n"; }
+};
+
 } // namespace
 
 TEST_F(Preferences, TheTrayIconOpensALargeWindowOfControlsAndTheHotKeyBringsTheSameOneForward) {
@@ -318,4 +325,58 @@ TEST_F(Preferences, UserTasksAddedOnTheTasklistPageAreWrittenOnOKTenAtMost) {
     EXPECT_EQ(folder.ReadSetting("TaskName0"), "editor");
     EXPECT_EQ(folder.ReadSetting("TaskExec0"), "notepad");
     EXPECT_EQ(folder.ReadSetting("TaskName9"), "NewItem");
+}
+
+// Save the look as a theme, change the look, load the theme back: the saved look again,
+// in the preview and, after OK, in the file; then the theme deleted after its question.
+TEST_F(ThemesPage, ALookSavedAsAThemeComesBackWhenLoadedAndADeletedThemeIsGone) {
+    HWND window = Open();
+    ASSERT_TRUE(window);
+    std::optional<WindowInfo> preview = PreviewWindow(window);
+    ASSERT_TRUE(preview);
+    const std::string titleColour = folder.ReadSetting("TitleColor");
+    auto press = [&](std::string_view button) {
+        std::optional<WindowInfo> found = VisibleControl(window, "Button", button);
+        return found && ClickWindow(found->hwnd);
+    };
+
+    ASSERT_TRUE(ShowPreferencePage(window, "Themes"));
+    std::optional<WindowInfo> name = ControlBesideLabel(window, "&Name:", "Edit");
+    ASSERT_TRUE(name);
+    ::SendMessageW(name->hwnd, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Mine"));
+    ASSERT_TRUE(press("&Save Theme"));
+    ASSERT_TRUE(WaitUntil([&] { return folder.Exists("Themes\\Mine\\Mine.wst"); }, 10s));
+
+    ASSERT_TRUE(ShowPreferencePage(window, "Titlebar"));
+    ASSERT_TRUE(ChooseRedTitle(window));
+    ASSERT_TRUE(WaitUntil([&] { return RedInTitle(preview->hwnd) > 100; }, 10s));
+
+    ASSERT_TRUE(ShowPreferencePage(window, "Themes"));
+    std::optional<WindowInfo> themes = VisibleControl(window, "ListBox", "");
+    for (const WindowInfo& list : AllControls(window))
+        if (list.className == "ListBox" && list.visible && list.rect.left > themes->rect.left)
+            themes = list; // the page's list, right of the page list
+    ASSERT_TRUE(themes && Click(themes->rect.left + 20, themes->rect.top + 6)) << "Mine is the only theme";
+    EXPECT_TRUE(WaitUntil([&] { return RedInTitle(preview->hwnd) == 0; }, 10s)) << "the preview shows the chosen theme";
+    ASSERT_TRUE(press("&Load Theme"));
+    EXPECT_TRUE(WaitUntil([&] { return VisibleControl(window, "Static", "Loaded Mine: OK or Apply keeps it.").has_value(); },
+                          10s));
+    EXPECT_TRUE(SaveNamedScreenshot("themes-page-loaded"));
+    ASSERT_TRUE(ShowPreferencePage(window, "Titlebar"));
+    EXPECT_TRUE(WaitUntil([&] { return RedInTitle(preview->hwnd) == 0; }, 10s)) << "the edited look is the theme's";
+
+    ASSERT_TRUE(ShowPreferencePage(window, "Themes"));
+    ASSERT_TRUE(Click(themes->rect.left + 20, themes->rect.top + 6));
+    ASSERT_TRUE(press("&Delete Theme"));
+    std::optional<WindowInfo> question = WaitForMessageBox(tarvex.processId());
+    ASSERT_TRUE(question);
+    EXPECT_EQ(question->title, "Tarvex - Delete Theme Confirmation Dialog") << DialogText(question->hwnd);
+    ASSERT_TRUE(PressButton(question->hwnd, "OK"));
+    EXPECT_TRUE(WaitUntil([&] { return !folder.Exists("Themes\\Mine"); }, 10s));
+    EXPECT_TRUE(WaitUntil([&] { return ::SendMessageW(themes->hwnd, LB_GETCOUNT, 0, 0) == 0; }, 10s));
+
+    ASSERT_TRUE(press("OK"));
+    ASSERT_TRUE(WaitUntil([&] { return !::IsWindow(window); }, 10s));
+    EXPECT_EQ(folder.ReadSetting("TitleColor"), titleColour);
+    EXPECT_EQ(folder.ReadSetting("GenThemeName"), "Mine");
 }

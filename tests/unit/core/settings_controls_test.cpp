@@ -5,6 +5,7 @@
 #include "prefs/menu_editor.h"
 #include "prefs/preference_pages.h"
 #include "prefs/sound_page.h"
+#include "prefs/themes_page.h"
 #include "prefs/user_tasks.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +35,8 @@ const std::set<std::string_view> kWithoutControl = {
 const std::set<std::pair<PrefPage, std::string_view>> kGroupsOfTheirOwn = {{PrefPage::SoundAnimation, "Sounds"},
                                                                          {PrefPage::Hotspots, "Hotspots"},
                                                                          {PrefPage::TasklistSystray, "User tasks"},
-                                                                         {PrefPage::MenuEditor, "Menus"}};
+                                                                         {PrefPage::MenuEditor, "Menus"},
+                                                                         {PrefPage::Themes, "Themes"}};
 
 bool Shown(const SettingDef& def) {
     return def.control.kind != ControlKind::None;
@@ -95,6 +97,8 @@ TEST(SettingsControls, LabelsAreDistinctAndMnemonicsUniquePerPage) {
         reserve(page.page, Preferences::kWindowButtons);
     reserve(PrefPage::SoundAnimation, Preferences::kSoundButtons);
     reserve(PrefPage::MenuEditor, MenuEditor::kButtons);
+    reserve(PrefPage::Themes, Preferences::kThemeLabels);
+    reserve(PrefPage::Themes, std::array{Preferences::kImportLabel});
     reserve(PrefPage::Hotspots, Preferences::kHotspotFieldLabels);
     reserve(PrefPage::Hotspots, Preferences::kHotspotButtons);
     reserve(PrefPage::TasklistSystray, Preferences::kUserTaskLabels);
