@@ -1,5 +1,7 @@
 #include "prefs/win/dialog_font.h"
 
+#include "win/text_convert.h"
+
 namespace PrefsWin {
 
 DialogFont::DialogFont() {
@@ -34,6 +36,12 @@ HWND MakeChild(HWND parent, const wchar_t* className, const wchar_t* text, DWORD
     return ::CreateWindowExW(0, className, text, WS_CHILD | WS_VISIBLE | style, rect.left, rect.top,
                              rect.right - rect.left, rect.bottom - rect.top, parent,
                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ::GetModuleHandleW(nullptr), nullptr);
+}
+
+std::string ControlText(HWND control) {
+    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(control)) + 1, L'\0');
+    text.resize(static_cast<std::size_t>(::GetWindowTextW(control, text.data(), static_cast<int>(text.size()))));
+    return Win::Narrow(text);
 }
 
 namespace {

@@ -8,6 +8,8 @@
 
 #include <windows.h>
 
+#include <string>
+
 namespace PrefsWin {
 
 class DialogFont {
@@ -30,6 +32,9 @@ private:
 
 // A visible child control of a window at a place in the window's client pixels.
 HWND MakeChild(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style, const RECT& rect, int id = 0);
+
+// A control's text, in UTF-8.
+std::string ControlText(HWND control);
 
 // Gives a window and all its children the font.
 void SetFontOfChildren(HWND parent, HFONT font);

@@ -67,12 +67,6 @@ constexpr int kLabelShare = 40; // per cent of the room's width
 constexpr int kGap = 4;
 constexpr int kDesktopWidth = 36;
 
-std::wstring TextOf(HWND control) {
-    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(control)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(::GetWindowTextW(control, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
 void AddChoice(HWND combo, std::string_view text) {
     ::SendMessageW(combo, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(Win::Widen(text).c_str()));
 }
@@ -332,7 +326,7 @@ void HotspotsPage::Field_Changed(Row& row, int code) {
                                      : (index < menuNames_.size() ? menuNames_[index] : std::string());
             Preferences::SetFieldText(hotspot, row.field, chosen);
         } else if (code == CBN_EDITCHANGE) {
-            Preferences::SetFieldText(hotspot, row.field, Win::Narrow(TextOf(row.control)));
+            Preferences::SetFieldText(hotspot, row.field, ControlText(row.control));
         } else {
             return;
         }
@@ -362,7 +356,7 @@ void HotspotsPage::Field_Changed(Row& row, int code) {
         }
         if (code != EN_CHANGE)
             return;
-        auto refused = Preferences::SetFieldText(hotspot, row.field, Win::Narrow(TextOf(row.control)));
+        auto refused = Preferences::SetFieldText(hotspot, row.field, ControlText(row.control));
         SetNote(refused.value_or(""));
         if (refused)
             return;

@@ -45,12 +45,6 @@ Win::UniqueIcon IconOf(const MenuItemRec& fields, int size) {
     return source ? MenuWindow::LoadItemIcon(*source, size) : Win::UniqueIcon{};
 }
 
-std::wstring WindowText(HWND window) {
-    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
 class ItemDialog {
 public:
     ItemDialog(const MenuItemRec& item, const ItemDialogContext& context) : item_(item), context_(context) {}
@@ -174,7 +168,6 @@ private:
     }
 
     static void SetText(HWND control, const std::string& text) { ::SetWindowTextW(control, Win::Widen(text).c_str()); }
-    static std::string TextOf(HWND control) { return Win::Narrow(WindowText(control)); }
 
     std::uint8_t Type() const {
         const LRESULT index = ::SendMessageW(type_, CB_GETCURSEL, 0, 0);
@@ -194,7 +187,7 @@ private:
     // the pickers that fit it.
     void Type_Changed() {
         const std::uint8_t type = Type();
-        const std::string path = TextOf(path_);
+        const std::string path = ControlText(path_);
         ::SendMessageW(choices_, LB_RESETCONTENT, 0, 0);
         int selected = -1;
         auto add = [&](const std::string& text, bool current) {
@@ -254,7 +247,7 @@ private:
 
     void HotKey_Changed() {
         const std::optional<std::string> clash =
-            MenuEditor::HotKeyClash(context_.menus, context_.place, TextOf(hotKey_));
+            MenuEditor::HotKeyClash(context_.menus, context_.place, ControlText(hotKey_));
         SetText(::GetDlgItem(hwnd_, kHotKeyNoteId), clash.value_or(""));
     }
 
@@ -301,20 +294,20 @@ private:
             const CommandTable::CommandRow& row = context_.commands[static_cast<std::size_t>(index)];
             SetText(path_, row.command);
             label = row.label;
-            if (TextOf(icon_).empty()) // the menu shows the command's own icon
+            if (ControlText(icon_).empty()) // the menu shows the command's own icon
                 SetText(icon_, row.icon);
         } else {
             label = MenuNames()[static_cast<std::size_t>(index)];
             SetText(path_, label);
         }
-        const std::string current = TextOf(label_);
+        const std::string current = ControlText(label_);
         if (current.empty() || current == MenuEditor::kNewItemLabel)
             SetText(label_, label);
     }
 
     // The path chosen, and the label when it has none yet, as a dropped file would have them.
     void PathBrowse_Click() {
-        const std::string current = TextOf(path_);
+        const std::string current = ControlText(path_);
         const bool folder = Type() == kItemFolderPath;
         const std::optional<std::string> chosen =
             folder ? PickFolder(hwnd_, current) : PickFile(hwnd_, current, L"Programs and documents", L"*.*");
@@ -322,7 +315,7 @@ private:
             return;
         const MenuItemRec picked = MenuEditor::DroppedItem(*chosen, folder);
         SetText(path_, picked.PATH);
-        const std::string label = TextOf(label_);
+        const std::string label = ControlText(label_);
         if (label.empty() || label == MenuEditor::kNewItemLabel)
             SetText(label_, picked.LABEL);
     }
@@ -359,14 +352,14 @@ private:
     MenuItemRec Fields() const {
         MenuItemRec fields = item_;
         fields.TYPE = Type();
-        fields.LABEL = TextOf(label_);
-        fields.PATH = TextOf(path_);
-        fields.STARTPATH = TextOf(start_);
-        fields.ARG = TextOf(arg_);
+        fields.LABEL = ControlText(label_);
+        fields.PATH = ControlText(path_);
+        fields.STARTPATH = ControlText(start_);
+        fields.ARG = ControlText(arg_);
         fields.RUNSTATE = static_cast<std::uint8_t>(std::max<LRESULT>(0, ::SendMessageW(run_, CB_GETCURSEL, 0, 0)));
-        fields.FILETYPEMASK = TextOf(mask_);
-        fields.ICONPATH = TextOf(icon_);
-        fields.HOTKEY = TextOf(hotKey_);
+        fields.FILETYPEMASK = ControlText(mask_);
+        fields.ICONPATH = ControlText(icon_);
+        fields.HOTKEY = ControlText(hotKey_);
         if (fields.HOTKEY.empty())
             fields.HOTKEY.assign(1, '0'); // "0": no hot key
         return fields;
@@ -445,7 +438,7 @@ private:
                 return TRUE;
             case kPathBrowseId: PathBrowse_Click(); return TRUE;
             case kStartBrowseId:
-                if (auto folder = PickFolder(hwnd, TextOf(start_)))
+                if (auto folder = PickFolder(hwnd, ControlText(start_)))
                     SetText(start_, *folder);
                 return TRUE;
             case kIconBrowseId: IconBrowse_Click(); return TRUE;

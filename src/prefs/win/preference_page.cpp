@@ -24,12 +24,6 @@ enum Role { kControl = 0, kSecond = 1 };
 
 constexpr COLORREF kNoteColour = RGB(192, 0, 0);
 
-std::wstring WindowText(HWND window) {
-    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(window)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(::GetWindowTextW(window, text.data(), static_cast<int>(text.size()))));
-    return text;
-}
-
 std::wstring FontText(const SettingsRec& settings, const SettingDef& key) {
     FontKeys keys = FontKeysOf(key);
     std::wstring text = Win::Widen(TextOf(settings, key));
@@ -273,7 +267,7 @@ void PreferencePage::Control_Command(int id, int code, HWND) {
         if (second && code == BN_CLICKED) {
             Folder_Browse(row);
         } else if (!second && code == EN_CHANGE) {
-            SetText(working_, key, Win::Narrow(WindowText(row.control)));
+            SetText(working_, key, ControlText(row.control));
             Report();
         }
         break;
@@ -290,7 +284,7 @@ void PreferencePage::Control_Command(int id, int code, HWND) {
 // field; leaving the field puts the nearest allowed number in its place.
 void PreferencePage::Number_Changed(Row& row, bool leaving) {
     const SettingDef& key = *row.placed->key;
-    NumberInput input = ReadNumberInput(Win::Narrow(WindowText(row.control)), key.control, NumberOf(working_, key));
+    NumberInput input = ReadNumberInput(ControlText(row.control), key.control, NumberOf(working_, key));
     if (!input.corrected) {
         SetNote(row, {});
         if (input.value != NumberOf(working_, key)) {

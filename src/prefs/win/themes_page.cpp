@@ -31,12 +31,6 @@ std::wstring Label(std::size_t which) {
     return Win::Widen(Preferences::kThemeLabels[which]);
 }
 
-std::string TextOf(HWND control) {
-    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(control)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(::GetWindowTextW(control, text.data(), static_cast<int>(text.size()))));
-    return Win::Narrow(text);
-}
-
 bool Checked(HWND box) {
     return ::SendMessageW(box, BM_GETCHECK, 0, 0) == BST_CHECKED;
 }
@@ -152,9 +146,9 @@ void ThemesPage::cmdLoad_Click() {
 
 // The edited look is saved: the theme takes the pictures, sounds and keys the preview shows.
 void ThemesPage::cmdSave_Click() {
-    const std::string name = TextOf(name_);
+    const std::string name = ControlText(name_);
     const Themes::Outcome outcome =
-        Themes::SaveTheme(program_.values, working_, {name, TextOf(author_), Checked(wallpaper_), Checked(fonts_)});
+        Themes::SaveTheme(program_.values, working_, {name, ControlText(author_), Checked(wallpaper_), Checked(fonts_)});
     if (outcome == Themes::Outcome::Declined)
         return;
     Refresh();

@@ -31,12 +31,6 @@ std::wstring Label(std::size_t which) {
     return Win::Widen(Preferences::kUserTaskLabels[which]);
 }
 
-std::string TextOf(HWND control) {
-    std::wstring text(static_cast<std::size_t>(::GetWindowTextLengthW(control)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(::GetWindowTextW(control, text.data(), static_cast<int>(text.size()))));
-    return Win::Narrow(text);
-}
-
 std::string UserTaskRec::*const kFields[] = {&UserTaskRec::TaskName, &UserTaskRec::TaskExec, &UserTaskRec::TaskIcon};
 
 } // namespace
@@ -132,7 +126,7 @@ void UserTasksRoom::Field_Changed(Field field) {
     UserTaskRec* task = Selected();
     if (!task)
         return;
-    task->*kFields[field] = TextOf(fields_[field]);
+    task->*kFields[field] = ControlText(fields_[field]);
     if (field == kName) { // the list follows the name as it is typed
         showing_ = true;
         ::SendMessageW(list_, LB_DELETESTRING, static_cast<WPARAM>(selected_), 0);
