@@ -512,7 +512,7 @@ def look_keys():
     """(name, type) of every key a theme file holds, in the catalogue's order."""
     source = open(os.path.join(REPO, "src", "core", "settings_catalogue.cpp"), encoding="utf-8").read()
     keys = []
-    for name, kind, group in re.findall(r"SETTING\((\w+),\s*(\w+),\s*(kLook|kGeneral)\)", source):
+    for name, kind, group in re.findall(r"SETTING\((\w+),\s*(\w+),\s*(kLook|kGeneral)\b", source):
         if group == "kGeneral":
             break
         keys.append((name, kind))
