@@ -106,19 +106,28 @@ TEST_P(Themes, PaintAStartUpMenuAndASubMenuWithTheirPictures) {
     std::optional<WindowInfo> menu = Start(StartupMenuSettings("Programs", 300, 120, keys), menus);
     ASSERT_TRUE(menu) << "no menu window opened at start";
 
-    // The title picture is stretched over the bar: its middle, between the name at the left
-    // and the buttons at the right, shows the picture's middle. The bar stands inside the
-    // frame's lines, or over them on its outer sides with TitleOverlap.
+    // The title picture is stretched over the bar (inside the frame's lines, or over them on
+    // its outer sides with TitleOverlap): the column through its middle, between the name
+    // at the left and the buttons at the right, shows the picture's middle column, each row
+    // of the bar the picture's row nearest its centre; the two rows at either end, which a
+    // 3D edge covers, aside. The theme's colours, drawn without the picture, would miss its
+    // lines.
     const RECT& r = menu->rect;
     bool framed = KeyNumber(keys, "MenuNoFrames") == 0;
     bool twoLines = keys.find("\nMenu3DFrame2=True") != std::string::npos;
     int frame = framed ? (twoLines ? 2 : 1) : 0;
     int top = keys.find("\nTitleOverlap=True") != std::string::npos ? 0 : frame;
     int height = KeyNumber(keys, "TitleVSize");
-    COLORREF expected = PicturePixel(ThemeFile(theme, "TitleA.bmp"), 0.5, height / 2);
-    ASSERT_NE(expected, CLR_INVALID);
-    COLORREF shown = ReadPixel(r.left + (r.right - r.left) / 2, r.top + (top + frame + height) / 2);
-    EXPECT_TRUE(Near(shown, expected)) << std::hex << "shown 0x" << shown << ", picture 0x" << expected;
+    int rows = frame + height - top;
+    std::string differing;
+    for (int y = 2; y < rows - 2; ++y) {
+        COLORREF expected = PicturePixel(ThemeFile(theme, "TitleA.bmp"), 0.5, (2 * y + 1) * height / (2 * rows));
+        ASSERT_NE(expected, CLR_INVALID);
+        COLORREF shown = ReadPixel(r.left + (r.right - r.left) / 2, r.top + top + y);
+        if (!Near(shown, expected))
+            differing += " " + std::to_string(y);
+    }
+    EXPECT_EQ(differing, "") << "rows of the title unlike its picture";
 
     // Tools, the second item, opens; the bar goes to its first item.
     for (WORD key : {VK_HOME, VK_DOWN, VK_RETURN})
