@@ -684,8 +684,8 @@ def write(folder, name, data):
         f.write(data)
 
 
-def selection_picture(spec):
-    kind, (width, height), art, backdrop = spec
+def selection_picture(selection):
+    kind, (width, height), art, backdrop = selection
     return SELECTIONS[kind](width, height, art, backdrop)
 
 
