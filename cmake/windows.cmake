@@ -33,9 +33,9 @@ set_source_files_properties(${CMAKE_SOURCE_DIR}/resources/tarvex2.rc PROPERTIES
     OBJECT_DEPENDS "${CMAKE_SOURCE_DIR}/resources/tarvex2.manifest;${CMAKE_SOURCE_DIR}/resources/tarvex2.ico")
 
 # Files the program expects beside itself, copied again whenever one of them changes.
-file(GLOB aurora_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/themes/Aurora/*)
+file(GLOB_RECURSE theme_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/themes/*)
 file(GLOB help_files CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/resources/help/Tv2/*)
-set(beside_exe_sources ${CMAKE_SOURCE_DIR}/resources/DefMenu.ini ${aurora_files} ${help_files})
+set(beside_exe_sources ${CMAKE_SOURCE_DIR}/resources/DefMenu.ini ${theme_files} ${help_files})
 set(beside_exe_outputs)
 foreach(source IN LISTS beside_exe_sources)
     file(RELATIVE_PATH relative ${CMAKE_SOURCE_DIR}/resources ${source})

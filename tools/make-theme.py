@@ -1,323 +1,113 @@
 #!/usr/bin/env python3
-"""Draws the shipped theme "Aurora" and writes its theme file.
+"""Draws the shipped themes and writes their theme files and sounds.
 
-Writes into resources/themes/Aurora/: Aurora.wst (section [TARVEX] with the look keys
-in the order of the settings catalogue, read from src/core/settings_catalogue.cpp), the
-title, button, selection-bar and task-list bitmaps (24-bit .bmp), and the arrow,
-command-key, title-bar button and systray icons (.ico with 32-bit BGRA images).
-Everything is drawn here from shapes with plain Python; the output is deterministic.
-Usage: make-theme.py [OUTPUT_FOLDER]"""
+Each theme is data (THEMES below): its name, its look keys (palette, fonts, sizes,
+gradient and flat choices) and the shapes its pictures are drawn from. One code path
+turns a theme into resources/themes/<name>/: <name>.wst (section [TARVEX] with the look
+keys in the order of the settings catalogue, read from src/core/settings_catalogue.cpp),
+the title, button, selection-bar and task-list bitmaps (24-bit .bmp), the arrow,
+command-key, title-bar button and systray icons (.ico with 32-bit BGRA images), and a
+wave file per menu sound event, named after the event ("Open Menu.wav" ...).
+Everything is drawn and synthesised here from shapes with plain Python; the output is
+deterministic.
+Usage: make-theme.py [NAME ...] [--into FOLDER]   (all themes into resources/themes)"""
 import math
 import os
 import re
-import struct
 import sys
 
+from theme_drawing import (BLACK, WHITE, Picture, bmp_bytes, circle, colorref, ico_bytes, inside, lighten, mix,
+                           polygon, polyline, ring, rgb, rounded_box, scaled, segment, shifted, soft, stops, union)
+import theme_sounds
+
 REPO = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
-THEME = "Aurora"
-SUPER = 4  # supersampling per axis for smooth edges
+# The sizes of the arrow and command-key icons: the menus draw the command key 12 pixels
+# and the sub-menu arrow 14 at 96 dots per inch (18 and 21 at 144), the scroll arrows 16
+# (24); an icon of each size is drawn for it, so that none is scaled down by the system.
+ICON_SIZES = (12, 14, 16, 18, 21, 24, 32)
+BUTTON_SIZES = (16, 20, 24, 32, 40)
+CRISP = 1  # one sample per pixel: hard edges
+
+
+def grain_at(ix, iy):
+    """A hash of the pixel in -0.5..0.5: paper grain, brushed metal, screen noise."""
+    return ((ix * 73856093 ^ iy * 19349663) & 0xFFFF) / 65535.0 - 0.5
 
 
 # ---------------------------------------------------------------------------
-# Colours: (r, g, b) floats in 0..1.
+# Title bars: a colour run along the bar, maybe waves of light through it, grain or scan
+# lines, a gloss, then lines along its edges (rows counted from the top, or from the
+# bottom when negative).
 
-def rgb(hex_text):
-    v = int(hex_text.lstrip("#"), 16)
-    return ((v >> 16) / 255.0, ((v >> 8) & 0xFF) / 255.0, (v & 0xFF) / 255.0)
-
-
-def mix(a, b, t):
-    return tuple(a[i] + (b[i] - a[i]) * t for i in range(3))
-
-
-def stops(points, t):
-    """The colour at t along a list of (position, colour) stops."""
-    t = min(max(t, points[0][0]), points[-1][0])
-    for (p0, c0), (p1, c1) in zip(points, points[1:]):
-        if t <= p1:
-            return mix(c0, c1, (t - p0) / (p1 - p0) if p1 > p0 else 0.0)
-    return points[-1][1]
-
-
-def lighten(c, amount):
-    return mix(c, (1.0, 1.0, 1.0), amount) if amount >= 0 else mix(c, (0.0, 0.0, 0.0), -amount)
-
-
-def colorref(hex_text):
-    """A settings colour: decimal 0x00BBGGRR."""
-    v = int(hex_text.lstrip("#"), 16)
-    r, g, b = v >> 16, (v >> 8) & 0xFF, v & 0xFF
-    return str(b << 16 | g << 8 | r)
-
-
-# ---------------------------------------------------------------------------
-# Pictures: straight RGBA floats, composited with "over".
-
-class Picture:
-    def __init__(self, width, height, colour=(0.0, 0.0, 0.0), alpha=0.0):
-        self.width = width
-        self.height = height
-        self.px = [[colour[0], colour[1], colour[2], alpha] for _ in range(width * height)]
-
-    def at(self, x, y):
-        return self.px[y * self.width + x]
-
-    def over(self, x, y, colour, alpha):
-        if alpha <= 0.0:
-            return
-        p = self.at(x, y)
-        out = alpha + p[3] * (1.0 - alpha)
-        for i in range(3):
-            p[i] = (colour[i] * alpha + p[i] * p[3] * (1.0 - alpha)) / out
-        p[3] = out
-
-    def shade(self, fn):
-        """fn(x, y) gives (colour, alpha) at the pixel's centre, laid over the pixel."""
-        for y in range(self.height):
-            for x in range(self.width):
-                colour, alpha = fn(x + 0.5, y + 0.5)
-                self.over(x, y, colour, alpha)
-
-    def fill(self, inside, paint, alpha=1.0):
-        """Lays paint(x, y) over the part where inside(x, y) holds, supersampled."""
-        n = SUPER * SUPER
-        for y in range(self.height):
-            for x in range(self.width):
-                hits = 0
-                for sy in range(SUPER):
-                    for sx in range(SUPER):
-                        if inside(x + (sx + 0.5) / SUPER, y + (sy + 0.5) / SUPER):
-                            hits += 1
-                if hits:
-                    self.over(x, y, paint(x + 0.5, y + 0.5), alpha * hits / n)
-
-    def rotated_left(self):
-        """Turned a quarter counter-clockwise: the top edge becomes the left edge."""
-        out = Picture(self.height, self.width)
-        for y in range(self.height):
-            for x in range(self.width):
-                out.px[(self.width - 1 - x) * out.width + y] = list(self.at(x, y))
-        return out
-
-
-def byte(v):
-    return max(0, min(255, int(round(v * 255.0))))
-
-
-def bmp_bytes(picture):
-    """A 24-bit bottom-up .bmp; transparent pixels come out black, so callers fill first."""
-    stride = (picture.width * 3 + 3) & ~3
-    rows = []
-    for y in range(picture.height - 1, -1, -1):
-        row = bytearray()
-        for x in range(picture.width):
-            r, g, b, _ = picture.at(x, y)
-            row += bytes((byte(b), byte(g), byte(r)))
-        row += b"\0" * (stride - len(row))
-        rows.append(bytes(row))
-    pixels = b"".join(rows)
-    header = struct.pack("<2sIHHI", b"BM", 14 + 40 + len(pixels), 0, 0, 14 + 40)
-    info = struct.pack("<IiiHHIIiiII", 40, picture.width, picture.height, 1, 24, 0, len(pixels), 2835, 2835, 0, 0)
-    return header + info + pixels
-
-
-def ico_image(picture):
-    size = picture.width
-    xor = bytearray()
-    mask_stride = ((size + 31) // 32) * 4
-    mask = bytearray()
-    for y in range(size - 1, -1, -1):
-        bits = 0
-        row_mask = bytearray()
-        for x in range(size):
-            r, g, b, a = picture.at(x, y)
-            xor += bytes((byte(b), byte(g), byte(r), byte(a)))
-            bits = (bits << 1) | (1 if byte(a) == 0 else 0)
-            if x % 8 == 7:
-                row_mask.append(bits)
-                bits = 0
-        if size % 8:
-            row_mask.append(bits << (8 - size % 8))
-        row_mask += b"\0" * (mask_stride - len(row_mask))
-        mask += row_mask
-    info = struct.pack("<IiiHHIIiiII", 40, size, size * 2, 1, 32, 0, len(xor) + len(mask), 0, 0, 0, 0)
-    return info + bytes(xor) + bytes(mask)
-
-
-def ico_bytes(pictures):
-    images = [ico_image(p) for p in pictures]
-    out = struct.pack("<HHH", 0, 1, len(images))
-    offset = 6 + 16 * len(images)
-    for picture, data in zip(pictures, images):
-        size = picture.width if picture.width < 256 else 0
-        out += struct.pack("<BBBBHHII", size, size, 0, 0, 1, 32, len(data), offset)
-        offset += len(data)
-    return out + b"".join(images)
-
-
-# ---------------------------------------------------------------------------
-# Shapes as distance functions: negative inside, in pixels.
-
-def circle(cx, cy, r):
-    return lambda x, y: math.hypot(x - cx, y - cy) - r
-
-
-def rounded_box(x0, y0, x1, y1, r):
-    cx, cy, hx, hy = (x0 + x1) / 2, (y0 + y1) / 2, (x1 - x0) / 2 - r, (y1 - y0) / 2 - r
-
-    def dist(x, y):
-        qx, qy = abs(x - cx) - hx, abs(y - cy) - hy
-        return math.hypot(max(qx, 0.0), max(qy, 0.0)) + min(max(qx, qy), 0.0) - r
-    return dist
-
-
-def segment(ax, ay, bx, by, width):
-    def dist(x, y):
-        px, py, dx, dy = x - ax, y - ay, bx - ax, by - ay
-        h = min(max((px * dx + py * dy) / (dx * dx + dy * dy), 0.0), 1.0)
-        return math.hypot(px - dx * h, py - dy * h) - width / 2
-    return dist
-
-
-def polyline(points, width):
-    parts = [segment(a[0], a[1], b[0], b[1], width) for a, b in zip(points, points[1:])]
-    return lambda x, y: min(p(x, y) for p in parts)
-
-
-def ring(cx, cy, r, width, start_deg=None, end_deg=None):
-    """A circle's outline; with angles, only the arc from start to end (degrees, clockwise
-    on screen from the +x axis), with round ends."""
-    def dist(x, y):
-        if start_deg is not None:
-            a = math.degrees(math.atan2(y - cy, x - cx)) % 360
-            span = (end_deg - start_deg) % 360
-            if (a - start_deg) % 360 > span:
-                ends = [(cx + r * math.cos(math.radians(d)), cy + r * math.sin(math.radians(d)))
-                        for d in (start_deg, end_deg)]
-                return min(math.hypot(x - ex, y - ey) for ex, ey in ends) - width / 2
-        return abs(math.hypot(x - cx, y - cy) - r) - width / 2
-    return dist
-
-
-def polygon(points):
-    """Signed distance to a closed polygon."""
-    def dist(x, y):
-        d = (x - points[0][0]) ** 2 + (y - points[0][1]) ** 2
-        sign = 1.0
-        j = len(points) - 1
-        for i in range(len(points)):
-            (vix, viy), (vjx, vjy) = points[i], points[j]
-            ex, ey, wx, wy = vjx - vix, vjy - viy, x - vix, y - viy
-            h = min(max((wx * ex + wy * ey) / (ex * ex + ey * ey), 0.0), 1.0)
-            d = min(d, (wx - ex * h) ** 2 + (wy - ey * h) ** 2)
-            c1, c2, c3 = y >= viy, y < vjy, ex * wy > ey * wx
-            if (c1 and c2 and c3) or (not c1 and not c2 and not c3):
-                sign = -sign
-            j = i
-        return sign * math.sqrt(d)
-    return dist
-
-
-def union(*shapes):
-    return lambda x, y: min(s(x, y) for s in shapes)
-
-
-def inside(shape):
-    return lambda x, y: shape(x, y) <= 0.0
-
-
-def soft(picture, shape, colour, alpha, blur):
-    """A blurred copy of a shape: its shadow or its glow."""
-    def fn(x, y):
-        d = shape(x, y)
-        return colour, alpha * min(max(0.5 - d / blur, 0.0), 1.0)
-    picture.shade(fn)
-
-
-def shifted(shape, dx, dy):
-    return lambda x, y: shape(x - dx, y - dy)
-
-
-def scaled(shape_of, s):
-    """shape_of builds a shape on a 16- or 20-pixel design grid; draw it s times larger."""
-    shape = shape_of()
-    return lambda x, y: shape(x / s, y / s) * s
-
-
-# ---------------------------------------------------------------------------
-# The palette.
-
-INDIGO = rgb("#241A52")
-VIOLET = rgb("#5A36C9")
-BLUE = rgb("#1C6FB8")
-TEAL = rgb("#12A89A")
-MINT = rgb("#7CF2D9")
-BODY = rgb("#1C1F2D")
-BODY_INACTIVE = rgb("#181A24")
-SLATE = rgb("#474C63")
-SLATE_DARK = rgb("#2A2E3E")
-WHITE = (1.0, 1.0, 1.0)
-BLACK = (0.0, 0.0, 0.0)
-
-AURORA = [(0.0, INDIGO), (0.42, VIOLET), (0.78, BLUE), (1.0, TEAL)]
-SLATES = [(0.0, rgb("#2B2F40")), (0.5, SLATE), (1.0, rgb("#3A4056"))]
-
-
-# ---------------------------------------------------------------------------
-# Title bars: a colour run along the bar, a soft ribbon of light through it, a gloss
-# on the upper half and crisp top and bottom lines.
-
-def title_bar(width, height, run, ribbon):
+def title_bar(width, height, art):
     p = Picture(width, height)
+    run, waves, (gloss_top, gloss_bottom) = art["run"], art.get("waves", ()), art.get("gloss", (0.16, 0.22))
+    grain, scan = art.get("grain", 0.0), art.get("scan", 0.0)
 
     def base(x, y):
         u, v = x / width, y / height
         c = stops(run, u)
-        if ribbon:
-            # Two slow waves of light, like the curtains of an aurora.
-            for phase, amp, strength in ((0.0, 0.22, 0.22), (2.1, 0.18, 0.14)):
-                centre = 0.55 + amp * math.sin(u * math.pi * 3.0 + phase)
-                glow = math.exp(-((v - centre) / 0.16) ** 2) * (0.5 + 0.5 * math.sin(u * math.pi * 2.0 + phase))
-                c = mix(c, MINT, strength * glow)
+        # Waves of light, like the curtains of an aurora.
+        for phase, amp, strength in waves:
+            centre = 0.55 + amp * math.sin(u * math.pi * 3.0 + phase)
+            glow = math.exp(-((v - centre) / 0.16) ** 2) * (0.5 + 0.5 * math.sin(u * math.pi * 2.0 + phase))
+            c = mix(c, art["wave_colour"], strength * glow)
+        if grain:
+            c = lighten(c, grain * grain_at(int(x), int(y)))
         # The gloss: lighter above the middle, darker towards the bottom.
-        if v < 0.5:
-            c = lighten(c, 0.16 * (1.0 - v / 0.5))
-        else:
-            c = lighten(c, -0.22 * (v - 0.5) / 0.5)
+        if gloss_top or gloss_bottom:
+            if v < 0.5:
+                c = lighten(c, gloss_top * (1.0 - v / 0.5))
+            else:
+                c = lighten(c, -gloss_bottom * (v - 0.5) / 0.5)
+        if scan and int(y) % 2:
+            c = lighten(c, -scan)
         return c, 1.0
     p.shade(base)
     for x in range(width):
-        p.over(x, 0, WHITE, 0.28)
-        p.over(x, height - 1, BLACK, 0.45)
+        for row, colour, alpha in art.get("edges", ((0, WHITE, 0.28), (-1, BLACK, 0.45))):
+            p.over(x, row % height, colour, alpha)
     return p
 
 
 # ---------------------------------------------------------------------------
-# Button backgrounds: a fine seamless texture that tiles over the whole menu body.
+# Button backgrounds: a fine seamless texture that tiles over the whole menu body. Every
+# pattern's period divides the tile's size, so neighbouring tiles join without a seam.
 
-def texture(size, colour, stripe, noise):
-    p = Picture(size, size)
+def texture(width, height, colour, art):
+    p = Picture(width, height)
+    noise, stripe, scan = art["noise"], art.get("stripe", 0.0), art.get("scan", 0.0)
+    fibres = art.get("fibres", 0.0)
 
     def fn(x, y):
         ix, iy = int(x), int(y)
-        # Grain from a hash of the pixel; the stripes' period divides the tile's size, so
-        # neighbouring tiles join without a seam.
-        h = (ix * 73856093 ^ iy * 19349663) & 0xFFFF
-        grain = (h / 65535.0 - 0.5) * noise
+        grain = grain_at(ix, iy) * noise
         line = stripe if (ix + iy) % 6 == 0 else 0.0
-        return lighten(colour, grain + line), 1.0
+        c = lighten(colour, grain + line)
+        if fibres:
+            # Paper fibres: faint streaks along the rows, a few pixels long.
+            c = lighten(c, fibres * grain_at(ix // 7, iy * 3 + ix // 7 % 2))
+        if scan and iy % 2:
+            c = lighten(c, -scan)
+        return c, 1.0
     p.shade(fn)
+    for row, rule, alpha in art.get("rules", ()):
+        for x in range(width):
+            p.over(x, row % height, rule, alpha)
     return p
 
 
-def selection_pill(width, height, run, backdrop):
-    """A rounded bar on the menu body; stretched to the selected button."""
+# ---------------------------------------------------------------------------
+# Selection bars, stretched to the selected button: a glossy pill, a wash of ink with a
+# mark at its start, a flat band, or a block of phosphor.
+
+def selection_pill(width, height, art, backdrop):
     p = Picture(width, height, backdrop, 1.0)
     box = rounded_box(1.0, 1.0, width - 1.0, height - 1.0, 5.0)
     soft(p, shifted(box, 0.0, 1.0), BLACK, 0.45, 1.5)
 
     def paint(x, y):
-        c = stops(run, x / width)
+        c = stops(art["run"], x / width)
         v = y / height
         return lighten(c, 0.18 * (1.0 - v / 0.5)) if v < 0.5 else lighten(c, -0.12 * (v - 0.5) / 0.5)
     p.fill(inside(box), paint)
@@ -326,25 +116,81 @@ def selection_pill(width, height, run, backdrop):
     return p
 
 
+def selection_wash(width, height, art, backdrop):
+    p = Picture(width, height, backdrop, 1.0)
+    p.shade(lambda x, y: (stops(art["run"], x / width), 1.0))
+    p.shade(lambda x, y: (WHITE, 0.0 if grain_at(int(x), int(y)) < 0.3 else 0.12))
+    for x in range(width):
+        p.over(x, height - 1, art["rule"], 0.55)
+    mark_width, mark = art["mark"]
+    for y in range(1, height - 1):
+        for x in range(mark_width):
+            p.over(x, y, mark, 1.0)
+    return p
+
+
+def selection_band(width, height, art, backdrop):
+    p = Picture(width, height, backdrop, 1.0)
+    p.shade(lambda x, y: (stops(art["run"], x / width), 1.0))
+    for x in range(width):
+        p.over(x, 0, WHITE, art.get("top", 0.0))
+        p.over(x, height - 1, BLACK, art.get("bottom", 0.0))
+    return p
+
+
+def selection_phosphor(width, height, art, backdrop):
+    """Lit text cells: bright in the middle, dimmer at the ends, scan lines across."""
+    p = Picture(width, height, backdrop, 1.0)
+
+    def fn(x, y):
+        u, v = x / width, y / height
+        c = lighten(art["colour"], 0.10 * math.sin(math.pi * v) - 0.06)
+        c = lighten(c, -0.18 * max(0.0, abs(u - 0.5) - 0.35) / 0.15)
+        if int(y) % 2:
+            c = lighten(c, -art["scan"])
+        return c, 1.0
+    p.shade(fn)
+    return p
+
+
+SELECTIONS = {"pill": selection_pill, "wash": selection_wash, "band": selection_band, "phosphor": selection_phosphor}
+
+
 # ---------------------------------------------------------------------------
-# Arrows: a gem with a lit upper facet and a shaded lower one over a soft shadow.
+# Arrows on a 16-pixel design grid, pointing right and turned: a gem with a lit upper facet
+# and a shaded lower one over a soft shadow, a chevron of ink, a flat triangle, or a
+# hard-edged one that glows.
 
-def arrow_picture(size, direction, light, dark):
-    s = size / 16.0
-    tip, back, half = 12.2, 5.0, 5.4
-
+def grid_of(s, direction):
     def to_grid(x, y):
         """Pixel to the grid of a right-pointing arrow: u along it, v across."""
         gx, gy = x / s, y / s
         return {"right": (gx, gy), "left": (16.0 - gx, gy), "down": (gy, gx), "up": (16.0 - gy, gx)}[direction]
+    return to_grid
 
+
+def arrow_picture(size, direction, light, dark, kind):
+    s = size / 16.0
+    to_grid = grid_of(s, direction)
+    p = Picture(size, size)
+    if kind == "chevron":
+        chevron = polyline([(6.4, 4.0), (10.4, 8.0), (6.4, 12.0)], 1.45)
+        p.fill(lambda x, y: chevron(*to_grid(x, y)) * s <= 0.0, lambda x, y: light)
+        return p
+    tip, back, half = {"gem": (12.2, 5.0, 5.4), "flat": (11.6, 5.6, 4.6), "crisp": (11.5, 5.0, 5.0)}[kind]
     triangle = polygon([(back, 8.0 - half), (tip, 8.0), (back, 8.0 + half)])
 
     def shape(x, y):
         u, v = to_grid(x, y)
         return triangle(u, v) * s
 
-    p = Picture(size, size)
+    if kind == "flat":
+        p.fill(inside(shape), lambda x, y: light)
+        return p
+    if kind == "crisp":
+        soft(p, shape, dark, 0.5, 2.2 * s)
+        p.fill(inside(shape), lambda x, y: light, 1.0, CRISP)
+        return p
     soft(p, shifted(shape, 0.9 * s, 1.1 * s), BLACK, 0.55, 1.4 * s)
 
     def facet(x, y):
@@ -360,11 +206,14 @@ def arrow_picture(size, direction, light, dark):
 
 
 # ---------------------------------------------------------------------------
-# The command-key symbol: four loops joined by a square, raised over a soft shadow.
+# The command-key symbol: four loops joined by a square; raised over a soft shadow, drawn
+# as a line of ink, flat, or hard-edged with a glow.
 
-def command_key_picture(size, light, dark):
+def command_key_picture(size, light, dark, kind):
     s = size / 16.0
-    lo, hi, r, w = 5.6, 10.4, 2.25, 1.6
+    lo, hi, r = 5.6, 10.4, 2.25
+    # The stroke, on the grid; never thinner than a pixel, or a small symbol fades.
+    w = max({"raised": 1.6, "line": 1.15, "flat": 1.45, "crisp": 1.6}[kind], 1.05 / s)
     c_lo, c_hi = lo - r, hi + r
 
     def glyph():
@@ -376,42 +225,46 @@ def command_key_picture(size, light, dark):
 
     shape = scaled(glyph, s)
     p = Picture(size, size)
-    # A light glyph over a light shadow: at 16 pixels on a dark body a dark stroke vanishes.
-    soft(p, shifted(shape, 0.8 * s, 1.0 * s), BLACK, 0.4, 1.2 * s)
-    p.fill(inside(shape), lambda x, y: mix(lighten(light, 0.25), mix(light, dark, 0.3), y / size))
+    if kind == "raised":
+        # A light glyph over a light shadow: at 16 pixels on a dark body a dark stroke vanishes.
+        soft(p, shifted(shape, 0.8 * s, 1.0 * s), BLACK, 0.4, 1.2 * s)
+        p.fill(inside(shape), lambda x, y: mix(lighten(light, 0.25), mix(light, dark, 0.3), y / size))
+    elif kind == "crisp":
+        soft(p, shape, dark, 0.45, 2.0 * s)
+        p.fill(inside(shape), lambda x, y: light, 1.0, CRISP)
+    else:
+        p.fill(inside(shape), lambda x, y: light)
     return p
 
 
 # ---------------------------------------------------------------------------
-# Title-bar buttons: a glassy disc with a white symbol, on a 20-pixel design grid.
+# Title-bar buttons on a 20-pixel design grid: a symbol on a glassy disc, in a ring of
+# ink, on a flat tile, or in a hard-edged box. weight thins or thickens the strokes.
 
-def close_glyph():
-    return union(segment(7.0, 7.0, 13.0, 13.0, 1.9), segment(13.0, 7.0, 7.0, 13.0, 1.9))
-
-
-def rollup_glyph():
-    return polyline([(6.6, 11.8), (10.0, 8.4), (13.4, 11.8)], 1.9)
+def close_glyph(weight=1.0):
+    return union(segment(7.0, 7.0, 13.0, 13.0, 1.9 * weight), segment(13.0, 7.0, 7.0, 13.0, 1.9 * weight))
 
 
-def ontop_glyph():
-    return union(segment(6.6, 6.6, 13.4, 6.6, 1.7), segment(10.0, 14.0, 10.0, 9.4, 1.7),
-                 polyline([(7.4, 11.6), (10.0, 9.0), (12.6, 11.6)], 1.7))
+def rollup_glyph(weight=1.0):
+    return polyline([(6.6, 11.8), (10.0, 8.4), (13.4, 11.8)], 1.9 * weight)
 
 
-def rotate_glyph():
+def ontop_glyph(weight=1.0):
+    return union(segment(6.6, 6.6, 13.4, 6.6, 1.7 * weight), segment(10.0, 14.0, 10.0, 9.4, 1.7 * weight),
+                 polyline([(7.4, 11.6), (10.0, 9.0), (12.6, 11.6)], 1.7 * weight))
+
+
+def rotate_glyph(weight=1.0):
     head = polygon([(13.9, 4.9), (15.0, 9.6), (10.6, 8.3)])
-    return union(ring(10.0, 10.0, 4.1, 1.8, 330, 250), head)
+    return union(ring(10.0, 10.0, 4.1, 1.8 * weight, 330, 250), head)
 
 
-BUTTONS = {
-    "Close": (close_glyph, rgb("#F2555A"), rgb("#B82E36")),
-    "Rollup": (rollup_glyph, rgb("#F6BE4F"), rgb("#C9820F")),
-    "OnTop": (ontop_glyph, rgb("#33D6C0"), rgb("#118E83")),
-    "Rotate": (rotate_glyph, rgb("#A285FF"), rgb("#5E3CD6")),
-}
+GLYPHS = {"Close": close_glyph, "Rollup": rollup_glyph, "OnTop": ontop_glyph, "Rotate": rotate_glyph}
+# The forms of a title-bar button: active, inactive, and each pressed.
+FORMS = (("A", False, False), ("I", True, False), ("AP", False, True), ("IP", True, True))
 
 
-def title_button_picture(size, glyph_of, top, bottom, pressed):
+def glass_button(size, glyph_of, top, bottom, pressed):
     s = size / 20.0
     disc = scaled(lambda: circle(10.0, 10.0, 8.6), s)
     p = Picture(size, size)
@@ -435,84 +288,354 @@ def greyed(base):
     return lighten(mix(base, (0.45, 0.47, 0.54), 0.8), -0.05)
 
 
-# ---------------------------------------------------------------------------
-# The systray button's icon: a small clock on an aurora tile.
-
-def systray_picture(size):
-    s = size / 16.0
-    tile = scaled(lambda: rounded_box(0.8, 0.8, 15.2, 15.2, 3.4), s)
+def plain_button(size, glyph_of, colours, kind):
+    """colours: (face, line, symbol); a face of None leaves the inside clear."""
+    face, line, symbol = colours
+    s = size / 20.0
+    samples = CRISP if kind == "box" else 4
+    outline = {"ring": lambda: circle(10.0, 10.0, 8.4), "tile": lambda: rounded_box(1.5, 1.5, 18.5, 18.5, 4.0),
+               "box": lambda: rounded_box(2.0, 2.0, 18.0, 18.0, 0.0)}[kind]
+    shape = scaled(outline, s)
     p = Picture(size, size)
-    p.fill(inside(tile), lambda x, y: stops(AURORA, (x + y) / (2.0 * size)))
+    if face is not None:
+        p.fill(inside(shape), lambda x, y: face, 1.0, samples)
+    if line is not None:
+        edge = 1.15 if kind == "ring" else 1.5
+        p.fill(lambda x, y: -edge * s < shape(x, y) <= 0.0, lambda x, y: line, 1.0, samples)
+    p.fill(inside(scaled(glyph_of, s)), lambda x, y: symbol, 1.0, samples)
+    return p
+
+
+def title_button_pictures(art, base, form, inactive, pressed):
+    glyph = lambda: GLYPHS[base](art.get("weight", 1.0))
+    if art["kind"] == "glass":
+        top, bottom = art["colours"][base]
+        t, b = (greyed(top), greyed(bottom)) if inactive else (top, bottom)
+        return [glass_button(n, GLYPHS[base], t, b, pressed) for n in BUTTON_SIZES]
+    colours = art["forms"][form]
+    if base == "Close" and "close" in art:
+        colours = art["close"].get(form, colours)
+    return [plain_button(n, glyph, colours, art["kind"]) for n in BUTTON_SIZES]
+
+
+# ---------------------------------------------------------------------------
+# The systray button's icon: a small clock on a tile.
+
+def systray_picture(size, art):
+    s = size / 16.0
+    samples = CRISP if art.get("crisp") else 4
+    tile = scaled(lambda: rounded_box(0.8, 0.8, 15.2, 15.2, art.get("radius", 3.4)), s)
+    p = Picture(size, size)
+    p.fill(inside(tile), lambda x, y: stops(art["tile"], (x + y) / (2.0 * size)), 1.0, samples)
+    if "border" in art:
+        p.fill(lambda x, y: -1.0 * s < tile(x, y) <= 0.0, lambda x, y: art["border"], 1.0, samples)
     face = scaled(lambda: ring(8.0, 8.0, 4.6, 1.3), s)
     hands = scaled(lambda: polyline([(8.0, 5.0), (8.0, 8.0), (10.4, 9.4)], 1.2), s)
-    p.fill(inside(union(face, hands)), lambda x, y: WHITE)
+    if "glow" in art:
+        soft(p, union(face, hands), art["glow"], 0.5, 1.6 * s)
+    p.fill(inside(union(face, hands)), lambda x, y: art["hands"], 1.0, samples)
     return p
+
+
+# ---------------------------------------------------------------------------
+# The themes. Colours are "#RRGGBB"; the theme file writes them as the catalogue does.
+
+# Keys that every shipped theme sets alike: how the menus behave rather than how they look.
+COMMON_KEYS = {
+    "ButtonTransparent": False, "ButtonInactiveTransparent": 0, "ButtonIcons": True, "ButtonIconSize": 16,
+    "TwinScrollButtons": True, "Menu3DArrows": 2, "SelBar": True, "SelBarFollowMouse": True,
+    "MenuAutoDropDown": False, "MenuDropDownDelay": 400, "MenuAlignWithTitle": 0, "MenuHotKeys": 3,
+    "MenuAutoScroll": False, "ButtonAlignment": 0, "TitlePosition": 0, "TitleTextType": 2, "ButtonTextType": 2,
+    "TitleShowInactive": True, "ButtonShowInactive": True, "ScrollShowSelBar": False, "MenuScrollSpeed": 50,
+    "ShowMoreOnTop": True, "MenuFolderPosition": 0, "MenuHorizontalStyle": 0, "SelBarBlink": False,
+    "ButtonStyle": 2, "HotkeyStyle": 2, "CloseStatus": 3, "RollUpStatus": 3, "RotateStatus": 3,
+    "AlwaysOnTopStatus": 3, "MenuIsGradientTarget": True, "InactiveMenuIsGradientTarget": True,
+    "TaskbarStyle": 0, "TaskbarOrientation": 1, "TaskbarBackgroundType": 0, "TaskbarGradientType": 0,
+    "TaskbarIconSize": 1, "TaskbarTileBitmap": False, "TaskbarWrapGradient": False, "TaskbarFrame": 1,
+    "MenuMaxNoItems": 9999, "MenuToggleSubMenus": False, "Button3DStyle": 0, "SysTileWallpaper": "",
+    "HorzNoTitlebar": True, "HorzLockWidth": True, "HorzAutoRotate": False, "HorzButtonsOnly": False,
+    "MenuOverlapMenus": False, "TitleOverlap": True, "TitleInactiveOverlap": True,
+}
+
+# The arrows a theme draws, by file stem: direction and forms.
+ARROWS = {"Arrow": ("right", "A I AS IS"), "HzArrow": ("down", "A I AS IS"), "UpArrow": ("up", "A I"),
+          "DnArrow": ("down", "A I AS IS"), "LfArrow": ("left", "A I"), "RgArrow": ("right", "A I")}
+
+# --- Aurora: deep indigo to teal with waves of light, glassy buttons, a textured dark body.
+INDIGO, VIOLET, BLUE, TEAL, MINT = rgb("#241A52"), rgb("#5A36C9"), rgb("#1C6FB8"), rgb("#12A89A"), rgb("#7CF2D9")
+AURORA_BODY, AURORA_BODY_INACTIVE = rgb("#1C1F2D"), rgb("#181A24")
+SLATE, SLATE_DARK = rgb("#474C63"), rgb("#2A2E3E")
+AURORA_RUN = [(0.0, INDIGO), (0.42, VIOLET), (0.78, BLUE), (1.0, TEAL)]
+SLATES = [(0.0, rgb("#2B2F40")), (0.5, SLATE), (1.0, rgb("#3A4056"))]
+
+AURORA = {
+    "name": "Aurora",
+    "keys": {
+        # Title bar: the stretched aurora picture, a gradient where it is switched off.
+        "TitleGradient": True, "TitleColor": "#3A2A8A", "TitleColor2": "#12A89A", "TitleVSize": 24,
+        "TitleFont": "Tahoma", "TitleFontSize": 9, "TitleFontColor": "#FFFFFF", "TitleFontBold": True,
+        "TitleFontItalic": False, "TitleFlat": False, "Title3DColor1": "#7C6FE0", "Title3DColor2": "#0B0C13",
+        "TitleAlignment": 0,
+        # Buttons: a fine texture tiled over the whole menu body.
+        "ButtonBitmapToMenu": True, "ButtonInactiveBitmapToMenu": True, "ButtonGradient": True,
+        "ButtonColor": "#1C1F2D", "ButtonColor2": "#141621", "ButtonVSize": 24, "ButtonFont": "Tahoma",
+        "ButtonFontSize": 9, "ButtonFontColor": "#E4E7F2", "ButtonFontBold": False, "ButtonFontItalic": False,
+        "ButtonFlat": 1, "Button3DColor1": "#3B4060", "Button3DColor2": "#0B0C13",
+        # Selection bar: a gradient from teal to violet.
+        "SelBarGradient": 1, "SelBarGradientType": 0, "SelBarWrapGradient": False, "SelBarTileBitmap": False,
+        "SelBarColor": "#13B5A3", "SelBarColor2": "#7B5CF5", "SelBarTextColor": "#FFFFFF",
+        "ButtonMaxWidth": 320, "ButtonMinWidth": 200, "ButtonTextOfset": 8,
+        # Inactive menus: the slate title picture and a gradient down the body.
+        "TitleBitmap": True, "ButtonBitmap": True, "TitleTileBitmap": False, "ButtonTileBitmap": True,
+        "TitleGradientType": 0, "ButtonGradientType": 1, "TitleWrapGradient": False, "ButtonWrapGradient": False,
+        "TitleInactiveBitmap": True, "ButtonInactiveBitmap": False, "TitleInactiveTileBitmap": False,
+        "ButtonInactiveTileBitmap": True, "TitleInactiveGradientType": 0, "ButtonInactiveGradientType": 1,
+        "TitleInactiveWrapGradient": True, "ButtonInactiveWrapGradient": False,
+        "TitleInactiveFontColor": "#C3C7D6", "ButtonInactiveFontColor": "#8E94AA", "TitleInactiveGradient": True,
+        "ButtonInactiveGradient": True, "TitleInactiveColor": "#2B2F40", "ButtonInactiveColor": "#1E2130",
+        "TitleInactiveColor2": "#474C63", "ButtonInactiveColor2": "#10121A", "TitleInactiveFlat": False,
+        "ButtonInactiveFlat": 1, "TitleInactive3DColor1": "#5A5F78", "ButtonInactive3DColor1": "#3B4060",
+        "TitleInactive3DColor2": "#0B0C13", "ButtonInactive3DColor2": "#0B0C13",
+        # All four title-bar buttons: rotate at the left end, close, roll-up and on-top from the right.
+        "ClosePosition": 0, "RollUpPosition": 1, "RotatePosition": -1, "AlwaysOnTopPosition": 2,
+        # Menus unroll quickly as they open.
+        "AnimationType": 1, "AnimationHType": 1, "AnimationSpeed": 2,
+        # Task list and systray in the same colours.
+        "TaskbarColor1": "#1C1F2D", "TaskbarColor2": "#2A2E3E", "TaskbarFrameColor1": "#4B4F6E",
+        "TaskbarFrameColor2": "#0B0C13",
+        # A 3D frame: a light line on the top and left, a dark one on the bottom and right.
+        "MenuNoFrames": 0, "Menu3DFrame": True, "MenuFrameColor": "#4B4F6E", "MenuFrameColor2": "#0B0C13",
+        "Menu3DFrame2": False, "MenuFrameColor3": "#2A2E42", "MenuFrameColor4": "#101118", "MenuFrameToBody": False,
+    },
+    "title": {"run": AURORA_RUN, "waves": ((0.0, 0.22, 0.22), (2.1, 0.18, 0.14)), "wave_colour": MINT},
+    "title_inactive": {"run": SLATES},
+    "title_size": (256, 24),
+    "body": (48, 48, AURORA_BODY, {"noise": 0.035, "stripe": 0.025}),
+    "body_inactive": (48, 48, AURORA_BODY_INACTIVE, {"noise": 0.025, "stripe": 0.02}),
+    "selection": ("pill", (200, 24), {"run": [(0.0, rgb("#13B5A3")), (1.0, rgb("#7B5CF5"))]}, AURORA_BODY),
+    "selection_inactive": ("pill", (200, 24), {"run": SLATES}, AURORA_BODY_INACTIVE),
+    "tasks": {"run": [(0.0, SLATE_DARK), (1.0, AURORA_BODY)]},
+    # Arrows and the command key: (light, dark) per form.
+    "icon_sizes": (16, 24, 32),  # as first shipped: the menus scale them to 12 and 14 pixels
+    "symbols": {"arrow": "gem", "command": "raised", "A": (rgb("#8FF0E2"), rgb("#1F9C8F")),
+                "I": (rgb("#A4A9BD"), rgb("#5D6277")), "AS": (WHITE, rgb("#D9D2FF")),
+                "IS": (rgb("#EDEDF5"), rgb("#B5B5C8"))},
+    "buttons": {"kind": "glass", "colours": {
+        "Close": (rgb("#F2555A"), rgb("#B82E36")), "Rollup": (rgb("#F6BE4F"), rgb("#C9820F")),
+        "OnTop": (rgb("#33D6C0"), rgb("#118E83")), "Rotate": (rgb("#A285FF"), rgb("#5E3CD6"))}},
+    "systray": {"tile": AURORA_RUN, "hands": WHITE},
+    "voice": "glass",
+}
+
+# --- Paper: warm off-white paper, ink-blue text, thin ruled lines, quiet line symbols.
+PAPER_INK = "#1D3557"
+PAPER = {
+    "name": "Paper",
+    "keys": {
+        "TitleGradient": False, "TitleColor": "#F1EADB", "TitleColor2": "#E8DFCB", "TitleVSize": 26,
+        "TitleFont": "Georgia", "TitleFontSize": 10, "TitleFontColor": PAPER_INK, "TitleFontBold": True,
+        "TitleFontItalic": False, "TitleFlat": True, "Title3DColor1": "#FFFFFF", "Title3DColor2": "#B9AE98",
+        "TitleAlignment": 0,
+        # Buttons: ruled paper tiled over the body, one rule under every button.
+        "ButtonBitmapToMenu": True, "ButtonInactiveBitmapToMenu": True, "ButtonGradient": False,
+        "ButtonColor": "#FAF6EE", "ButtonColor2": "#F2ECE0", "ButtonVSize": 22, "ButtonFont": "Georgia",
+        "ButtonFontSize": 9, "ButtonFontColor": "#22314A", "ButtonFontBold": False, "ButtonFontItalic": False,
+        "ButtonFlat": 1, "Button3DColor1": "#FFFFFF", "Button3DColor2": "#C9C0AE",
+        # Selection bar: a pale wash of blue ink with a mark at its start.
+        "SelBarGradient": 2, "SelBarGradientType": 0, "SelBarWrapGradient": False, "SelBarTileBitmap": False,
+        "SelBarColor": "#DCE6F1", "SelBarColor2": "#CCDAEB", "SelBarTextColor": "#0F2440",
+        "ButtonMaxWidth": 320, "ButtonMinWidth": 200, "ButtonTextOfset": 10,
+        "TitleBitmap": True, "ButtonBitmap": True, "TitleTileBitmap": False, "ButtonTileBitmap": True,
+        "TitleGradientType": 0, "ButtonGradientType": 1, "TitleWrapGradient": False, "ButtonWrapGradient": False,
+        "TitleInactiveBitmap": True, "ButtonInactiveBitmap": True, "TitleInactiveTileBitmap": False,
+        "ButtonInactiveTileBitmap": True, "TitleInactiveGradientType": 0, "ButtonInactiveGradientType": 1,
+        "TitleInactiveWrapGradient": False, "ButtonInactiveWrapGradient": False,
+        "TitleInactiveFontColor": "#66728A", "ButtonInactiveFontColor": "#5C687C", "TitleInactiveGradient": False,
+        "ButtonInactiveGradient": False, "TitleInactiveColor": "#ECE7DC", "ButtonInactiveColor": "#F5F2EB",
+        "TitleInactiveColor2": "#E3DDD0", "ButtonInactiveColor2": "#EDE9E0", "TitleInactiveFlat": True,
+        "ButtonInactiveFlat": 1, "TitleInactive3DColor1": "#FFFFFF", "ButtonInactive3DColor1": "#FFFFFF",
+        "TitleInactive3DColor2": "#BDB5A6", "ButtonInactive3DColor2": "#C9C0AE",
+        # The title-bar buttons together at the right end, close outermost.
+        "ClosePosition": 0, "RollUpPosition": 1, "RotatePosition": 3, "AlwaysOnTopPosition": 2,
+        "AnimationType": 4, "AnimationHType": 4, "AnimationSpeed": 2,
+        "TaskbarColor1": "#F6F1E6", "TaskbarColor2": "#ECE5D6", "TaskbarFrameColor1": "#FFFFFF",
+        "TaskbarFrameColor2": "#B3A890",
+        # One thin line round the sheet.
+        "MenuNoFrames": 0, "Menu3DFrame": False, "MenuFrameColor": "#A79C86", "MenuFrameColor2": "#A79C86",
+        "Menu3DFrame2": False, "MenuFrameColor3": "#E9E2D3", "MenuFrameColor4": "#E9E2D3", "MenuFrameToBody": False,
+        # The title bar inside the frame, at its own height: its picture is not stretched.
+        "TitleOverlap": False, "TitleInactiveOverlap": False,
+    },
+    # A sheet with a double rule of ink under it; the inactive one greyer, its rule single.
+    "title": {"run": [(0.0, rgb("#F4EDDF")), (1.0, rgb("#EEE5D2"))], "gloss": (0.0, 0.0), "grain": 0.05,
+              "edges": ((-4, rgb(PAPER_INK), 0.85), (-1, rgb(PAPER_INK), 0.85))},
+    "title_inactive": {"run": [(0.0, rgb("#EFEAE0")), (1.0, rgb("#E8E2D6"))], "gloss": (0.0, 0.0), "grain": 0.04,
+                       "edges": ((-1, rgb("#8C95A3"), 0.8),)},
+    "title_size": (200, 26),
+    "body": (48, 22, rgb("#FAF6EE"), {"noise": 0.03, "fibres": 0.025, "rules": ((-1, rgb("#9FB4CF"), 0.45),)}),
+    "body_inactive": (48, 22, rgb("#F5F2EB"), {"noise": 0.025, "fibres": 0.02,
+                                               "rules": ((-1, rgb("#B9BDC4"), 0.4),)}),
+    "selection": ("wash", (200, 22), {"run": [(0.0, rgb("#D3E0EF")), (1.0, rgb("#E2EAF4"))],
+                                      "rule": rgb("#5F7FA8"), "mark": (3, rgb(PAPER_INK))}, rgb("#FAF6EE")),
+    "selection_inactive": ("wash", (200, 22), {"run": [(0.0, rgb("#E3DFD6")), (1.0, rgb("#ECE8E0"))],
+                                               "rule": rgb("#9AA1AC"), "mark": (3, rgb("#8C95A3"))},
+                           rgb("#F5F2EB")),
+    "tasks": {"run": [(0.0, rgb("#F6F1E6")), (1.0, rgb("#EEE6D5"))], "gloss": (0.0, 0.0), "grain": 0.04,
+              "edges": ((0, rgb("#FFFFFF"), 0.9), (-1, rgb("#A79C86"), 1.0))},
+    "symbols": {"arrow": "chevron", "command": "line", "A": (rgb("#2C4A73"), None), "I": (rgb("#8790A0"), None),
+                "AS": (rgb("#0F2440"), None), "IS": (rgb("#4E5A6C"), None)},
+    # Rings of ink; pressed, the ring fills and the symbol turns the colour of the paper.
+    "buttons": {"kind": "ring", "weight": 0.72, "forms": {
+        "A": (None, rgb("#3A5A85"), rgb(PAPER_INK)), "I": (None, rgb("#A3AAB6"), rgb("#8C95A3")),
+        "AP": (rgb(PAPER_INK), rgb(PAPER_INK), rgb("#F4EDDF")), "IP": (rgb("#8C95A3"), rgb("#8C95A3"),
+                                                                      rgb("#EFEAE0"))},
+        "close": {"A": (None, rgb("#3A5A85"), rgb("#8E2A2A")), "AP": (rgb("#8E2A2A"), rgb("#8E2A2A"),
+                                                                     rgb("#F4EDDF"))}},
+    "systray": {"tile": [(0.0, rgb("#FAF6EE")), (1.0, rgb("#EDE4D0"))], "border": rgb("#8C8170"),
+                "hands": rgb(PAPER_INK)},
+    "voice": "wood",
+}
+
+# --- Graphite: charcoal, flat, one bright accent of lime.
+GRAPHITE_ACCENT = "#A6E22E"
+GRAPHITE_DARK = "#15171A"
+GRAPHITE = {
+    "name": "Graphite",
+    "keys": {
+        "TitleGradient": False, "TitleColor": "#1B1C1F", "TitleColor2": "#232428", "TitleVSize": 26,
+        "TitleFont": "Segoe UI", "TitleFontSize": 9, "TitleFontColor": "#F2F3F5", "TitleFontBold": True,
+        "TitleFontItalic": False, "TitleFlat": True, "Title3DColor1": "#3A3C42", "Title3DColor2": "#0C0D0F",
+        "TitleAlignment": 0,
+        "ButtonBitmapToMenu": True, "ButtonInactiveBitmapToMenu": True, "ButtonGradient": False,
+        "ButtonColor": "#26282C", "ButtonColor2": "#222428", "ButtonVSize": 24, "ButtonFont": "Segoe UI",
+        "ButtonFontSize": 9, "ButtonFontColor": "#DADDE2", "ButtonFontBold": False, "ButtonFontItalic": False,
+        "ButtonFlat": 1, "Button3DColor1": "#3A3C42", "Button3DColor2": "#0C0D0F",
+        # Selection bar: a flat band of the accent, dark text on it.
+        "SelBarGradient": 2, "SelBarGradientType": 0, "SelBarWrapGradient": False, "SelBarTileBitmap": False,
+        "SelBarColor": GRAPHITE_ACCENT, "SelBarColor2": "#93CF1F", "SelBarTextColor": GRAPHITE_DARK,
+        "ButtonMaxWidth": 320, "ButtonMinWidth": 200, "ButtonTextOfset": 10,
+        "TitleBitmap": True, "ButtonBitmap": True, "TitleTileBitmap": False, "ButtonTileBitmap": True,
+        "TitleGradientType": 0, "ButtonGradientType": 1, "TitleWrapGradient": False, "ButtonWrapGradient": False,
+        "TitleInactiveBitmap": True, "ButtonInactiveBitmap": True, "TitleInactiveTileBitmap": False,
+        "ButtonInactiveTileBitmap": True, "TitleInactiveGradientType": 0, "ButtonInactiveGradientType": 1,
+        "TitleInactiveWrapGradient": False, "ButtonInactiveWrapGradient": False,
+        "TitleInactiveFontColor": "#8C9099", "ButtonInactiveFontColor": "#858A93", "TitleInactiveGradient": False,
+        "ButtonInactiveGradient": False, "TitleInactiveColor": "#1F2023", "ButtonInactiveColor": "#222326",
+        "TitleInactiveColor2": "#232428", "ButtonInactiveColor2": "#1F2023", "TitleInactiveFlat": True,
+        "ButtonInactiveFlat": 1, "TitleInactive3DColor1": "#34363B", "ButtonInactive3DColor1": "#34363B",
+        "TitleInactive3DColor2": "#0C0D0F", "ButtonInactive3DColor2": "#0C0D0F",
+        "ClosePosition": 0, "RollUpPosition": 2, "RotatePosition": 3, "AlwaysOnTopPosition": 1,
+        "AnimationType": 2, "AnimationHType": 2, "AnimationSpeed": 2,
+        "TaskbarColor1": "#222428", "TaskbarColor2": "#1B1C1F", "TaskbarFrameColor1": "#3A3C42",
+        "TaskbarFrameColor2": "#0C0D0F",
+        # A dark outer line and a faint lighter one inside it.
+        "MenuNoFrames": 0, "Menu3DFrame": False, "MenuFrameColor": "#0C0D0F", "MenuFrameColor2": "#0C0D0F",
+        "Menu3DFrame2": True, "MenuFrameColor3": "#3A3D44", "MenuFrameColor4": "#2E3035", "MenuFrameToBody": False,
+        # The title bar inside the frame, at its own height: its picture is not stretched.
+        "TitleOverlap": False, "TitleInactiveOverlap": False,
+    },
+    # Flat charcoal underlined in the accent, a dark line under that.
+    "title": {"run": [(0.0, rgb("#1B1C1F")), (1.0, rgb("#202125"))], "gloss": (0.0, 0.0), "grain": 0.02,
+              "edges": ((-3, rgb(GRAPHITE_ACCENT), 1.0), (-2, rgb(GRAPHITE_ACCENT), 1.0),
+                        (-1, rgb("#0C0D0F"), 1.0))},
+    "title_inactive": {"run": [(0.0, rgb("#1F2023")), (1.0, rgb("#232428"))], "gloss": (0.0, 0.0), "grain": 0.02,
+                       "edges": ((-3, rgb("#4A4D54"), 1.0), (-2, rgb("#4A4D54"), 1.0), (-1, rgb("#0C0D0F"), 1.0))},
+    "title_size": (200, 26),
+    "body": (48, 48, rgb("#26282C"), {"noise": 0.025}),
+    "body_inactive": (48, 48, rgb("#222326"), {"noise": 0.02}),
+    "selection": ("band", (200, 24), {"run": [(0.0, rgb(GRAPHITE_ACCENT)), (1.0, rgb("#9AD82A"))], "top": 0.25,
+                                      "bottom": 0.12}, rgb("#26282C")),
+    "selection_inactive": ("band", (200, 24), {"run": [(0.0, rgb("#878C95")), (1.0, rgb("#7E838C"))],
+                                               "top": 0.2}, rgb("#222326")),
+    "tasks": {"run": [(0.0, rgb("#222428")), (1.0, rgb("#1B1C1F"))], "gloss": (0.0, 0.0), "grain": 0.02,
+              "edges": ((0, rgb("#3A3C42"), 1.0), (-1, rgb("#0C0D0F"), 1.0))},
+    "symbols": {"arrow": "flat", "command": "flat", "A": (rgb("#BFC3CA"), None), "I": (rgb("#6C7079"), None),
+                "AS": (rgb(GRAPHITE_DARK), None), "IS": (rgb(GRAPHITE_DARK), None)},
+    # Flat tiles; pressed, the tile takes the accent.
+    "buttons": {"kind": "tile", "weight": 0.8, "forms": {
+        "A": (rgb("#2E3035"), None, rgb("#E4E6EA")), "I": (rgb("#26272B"), None, rgb("#6F737B")),
+        "AP": (rgb(GRAPHITE_ACCENT), None, rgb(GRAPHITE_DARK)), "IP": (rgb("#3A3C42"), None, rgb("#A0A4AC"))},
+        "close": {"AP": (rgb("#F0505A"), None, rgb("#FFFFFF"))}},
+    "systray": {"tile": [(0.0, rgb("#2A2C31")), (1.0, rgb("#1B1C1F"))], "hands": rgb(GRAPHITE_ACCENT)},
+    "voice": "tap",
+}
+
+# --- Amber: a terminal of amber phosphor on black, inverse title and selection, hard edges.
+AMBER_LIT = "#FFB000"
+AMBER_INK = "#1A1000"
+AMBER_BLACK = rgb("#0F0A02")
+AMBER = {
+    "name": "Amber",
+    "keys": {
+        "TitleGradient": False, "TitleColor": AMBER_LIT, "TitleColor2": "#E89E00", "TitleVSize": 24,
+        "TitleFont": "Courier New", "TitleFontSize": 10, "TitleFontColor": AMBER_INK, "TitleFontBold": True,
+        "TitleFontItalic": False, "TitleFlat": True, "Title3DColor1": "#FFD36B", "Title3DColor2": "#6B4700",
+        "TitleAlignment": 0,
+        "ButtonBitmapToMenu": True, "ButtonInactiveBitmapToMenu": True, "ButtonGradient": False,
+        "ButtonColor": "#0F0A02", "ButtonColor2": "#0A0701", "ButtonVSize": 22, "ButtonFont": "Courier New",
+        "ButtonFontSize": 10, "ButtonFontColor": AMBER_LIT, "ButtonFontBold": True, "ButtonFontItalic": False,
+        "ButtonFlat": 1, "Button3DColor1": "#6B4700", "Button3DColor2": "#000000",
+        # Selection bar: inverse video, dark text on lit phosphor.
+        "SelBarGradient": 2, "SelBarGradientType": 0, "SelBarWrapGradient": False, "SelBarTileBitmap": False,
+        "SelBarColor": AMBER_LIT, "SelBarColor2": "#E89E00", "SelBarTextColor": AMBER_INK,
+        "ButtonMaxWidth": 320, "ButtonMinWidth": 200, "ButtonTextOfset": 10,
+        "TitleBitmap": True, "ButtonBitmap": True, "TitleTileBitmap": False, "ButtonTileBitmap": True,
+        "TitleGradientType": 0, "ButtonGradientType": 1, "TitleWrapGradient": False, "ButtonWrapGradient": False,
+        "TitleInactiveBitmap": True, "ButtonInactiveBitmap": True, "TitleInactiveTileBitmap": False,
+        "ButtonInactiveTileBitmap": True, "TitleInactiveGradientType": 0, "ButtonInactiveGradientType": 1,
+        "TitleInactiveWrapGradient": False, "ButtonInactiveWrapGradient": False,
+        "TitleInactiveFontColor": "#B37B00", "ButtonInactiveFontColor": "#A87200", "TitleInactiveGradient": False,
+        "ButtonInactiveGradient": False, "TitleInactiveColor": "#0F0A02", "ButtonInactiveColor": "#0C0802",
+        "TitleInactiveColor2": "#0A0701", "ButtonInactiveColor2": "#0A0701", "TitleInactiveFlat": True,
+        "ButtonInactiveFlat": 1, "TitleInactive3DColor1": "#6B4700", "ButtonInactive3DColor1": "#6B4700",
+        "TitleInactive3DColor2": "#000000", "ButtonInactive3DColor2": "#000000",
+        "ClosePosition": 0, "RollUpPosition": 1, "RotatePosition": 3, "AlwaysOnTopPosition": 2,
+        "AnimationType": 1, "AnimationHType": 1, "AnimationSpeed": 3,
+        "TaskbarColor1": "#0F0A02", "TaskbarColor2": "#1A1204", "TaskbarFrameColor1": "#B37B00",
+        "TaskbarFrameColor2": "#6B4700",
+        # An amber line round the screen, a black one inside it.
+        "MenuNoFrames": 0, "Menu3DFrame": False, "MenuFrameColor": "#C98A00", "MenuFrameColor2": "#C98A00",
+        "Menu3DFrame2": True, "MenuFrameColor3": "#000000", "MenuFrameColor4": "#000000", "MenuFrameToBody": False,
+        # The title bar inside the frame, at its own height: its picture is not stretched.
+        "TitleOverlap": False, "TitleInactiveOverlap": False,
+    },
+    # The active title is a lit status line; the inactive one is dark between amber rules.
+    "title": {"run": [(0.0, rgb("#FFB81A")), (0.5, rgb(AMBER_LIT)), (1.0, rgb("#F2A500"))], "gloss": (0.06, 0.08),
+              "scan": 0.07, "edges": ((0, rgb("#FFD36B"), 0.7), (-1, rgb("#6B4700"), 0.8))},
+    "title_inactive": {"run": [(0.0, AMBER_BLACK), (1.0, AMBER_BLACK)], "gloss": (0.0, 0.0), "scan": 0.3,
+                       "edges": ((0, rgb("#8A5E00"), 1.0), (-1, rgb("#8A5E00"), 1.0))},
+    "title_size": (200, 24),
+    "body": (48, 48, AMBER_BLACK, {"noise": 0.08, "scan": 0.35}),
+    "body_inactive": (48, 48, rgb("#0C0802"), {"noise": 0.06, "scan": 0.35}),
+    "selection": ("phosphor", (200, 22), {"colour": rgb(AMBER_LIT), "scan": 0.07}, AMBER_BLACK),
+    "selection_inactive": ("phosphor", (200, 22), {"colour": rgb("#B37B00"), "scan": 0.07}, AMBER_BLACK),
+    "tasks": {"run": [(0.0, AMBER_BLACK), (1.0, rgb("#140D02"))], "gloss": (0.0, 0.0), "scan": 0.3,
+              "edges": ((0, rgb("#C98A00"), 1.0), (-1, rgb("#6B4700"), 1.0))},
+    # Hard-edged symbols with a glow of their own colour; dark under the lit selection.
+    "symbols": {"arrow": "crisp", "command": "crisp", "A": (rgb(AMBER_LIT), rgb("#FF8C00")),
+                "I": (rgb("#A87200"), rgb("#6B4700")), "AS": (rgb(AMBER_INK), rgb("#FFD36B")),
+                "IS": (rgb(AMBER_INK), rgb("#D9A030"))},
+    # Boxes drawn in dark ink on the lit title; on the dark inactive title, in dim amber.
+    "buttons": {"kind": "box", "forms": {
+        "A": (None, rgb(AMBER_INK), rgb(AMBER_INK)), "I": (None, rgb("#8A5E00"), rgb("#B37B00")),
+        "AP": (rgb(AMBER_INK), rgb(AMBER_INK), rgb(AMBER_LIT)), "IP": (rgb("#8A5E00"), rgb("#8A5E00"),
+                                                                     rgb(AMBER_INK))}},
+    "systray": {"tile": [(0.0, AMBER_BLACK), (1.0, AMBER_BLACK)], "border": rgb("#C98A00"), "radius": 1.0,
+                "hands": rgb(AMBER_LIT), "glow": rgb("#FF8C00"), "crisp": True},
+    "voice": "beep",
+}
+
+THEMES = [AURORA, PAPER, GRAPHITE, AMBER]
 
 
 # ---------------------------------------------------------------------------
 # The theme file: the look keys of the catalogue, in its order.
 
-WST_VALUES = {
-    # Title bar: the stretched aurora picture, a gradient where it is switched off.
-    "TitleGradient": True, "TitleColor": "#3A2A8A", "TitleColor2": "#12A89A", "TitleVSize": 24,
-    "TitleFont": "Tahoma", "TitleFontSize": 9, "TitleFontColor": "#FFFFFF", "TitleFontBold": True,
-    "TitleFontItalic": False, "TitleFlat": False, "Title3DColor1": "#7C6FE0", "Title3DColor2": "#0B0C13",
-    "TitleAlignment": 0,
-    # Buttons: a fine texture tiled over the whole menu body.
-    "ButtonBitmapToMenu": True, "ButtonInactiveBitmapToMenu": True, "ButtonTransparent": False,
-    "ButtonInactiveTransparent": 0, "ButtonGradient": True, "ButtonColor": "#1C1F2D", "ButtonColor2": "#141621",
-    "ButtonVSize": 24, "ButtonFont": "Tahoma", "ButtonFontSize": 9, "ButtonFontColor": "#E4E7F2",
-    "ButtonFontBold": False, "ButtonFontItalic": False, "ButtonFlat": 1, "Button3DColor1": "#3B4060",
-    "Button3DColor2": "#0B0C13", "ButtonIcons": True, "ButtonIconSize": 16, "TwinScrollButtons": True,
-    "Menu3DArrows": 2,
-    # Selection bar: a gradient from teal to violet.
-    "SelBar": True, "SelBarGradient": 1, "SelBarGradientType": 0, "SelBarWrapGradient": False,
-    "SelBarTileBitmap": False, "SelBarColor": "#13B5A3", "SelBarColor2": "#7B5CF5", "SelBarTextColor": "#FFFFFF",
-    "SelBarFollowMouse": True,
-    # Behaviour: as the program's defaults.
-    "MenuAutoDropDown": False, "MenuDropDownDelay": 400, "MenuAlignWithTitle": 0, "ButtonMaxWidth": 320,
-    "ButtonMinWidth": 200, "ButtonTextOfset": 8, "MenuHotKeys": 3, "MenuAutoScroll": False,
-    "GenThemeAuthor": "Tarvex", "GenThemeName": THEME, "ButtonAlignment": 0, "TitlePosition": 0,
-    "TitleTextType": 2, "ButtonTextType": 2,
-    # Inactive menus: the slate title picture and a gradient down the body.
-    "TitleShowInactive": True, "ButtonShowInactive": True, "TitleBitmap": True, "ButtonBitmap": True,
-    "TitleTileBitmap": False, "ButtonTileBitmap": True, "TitleGradientType": 0, "ButtonGradientType": 1,
-    "TitleWrapGradient": False, "ButtonWrapGradient": False, "TitleInactiveBitmap": True,
-    "ButtonInactiveBitmap": False, "TitleInactiveTileBitmap": False, "ButtonInactiveTileBitmap": True,
-    "TitleInactiveGradientType": 0, "ButtonInactiveGradientType": 1, "TitleInactiveWrapGradient": True,
-    "ButtonInactiveWrapGradient": False, "TitleInactiveFontColor": "#C3C7D6", "ButtonInactiveFontColor": "#8E94AA",
-    "TitleInactiveGradient": True, "ButtonInactiveGradient": True, "TitleInactiveColor": "#2B2F40",
-    "ButtonInactiveColor": "#1E2130", "TitleInactiveColor2": "#474C63", "ButtonInactiveColor2": "#10121A",
-    "TitleInactiveFlat": False, "ButtonInactiveFlat": 1, "TitleInactive3DColor1": "#5A5F78",
-    "ButtonInactive3DColor1": "#3B4060", "TitleInactive3DColor2": "#0B0C13", "ButtonInactive3DColor2": "#0B0C13",
-    "ScrollShowSelBar": False, "MenuScrollSpeed": 50, "ShowMoreOnTop": True, "MenuFolderPosition": 0,
-    "MenuHorizontalStyle": 0, "SelBarBlink": False,
-    # Pictures for the arrows, the command key and the title-bar buttons; all four buttons,
-    # rotate at the left end, close, roll-up and on-top from the right end.
-    "BitmapsFolder": "Themes\\" + THEME, "ButtonStyle": 2, "HotkeyStyle": 2, "CloseStatus": 3,
-    "RollUpStatus": 3, "RotateStatus": 3, "AlwaysOnTopStatus": 3, "ClosePosition": 0, "RollUpPosition": 1,
-    "RotatePosition": -1, "AlwaysOnTopPosition": 2, "MenuIsGradientTarget": True,
-    "InactiveMenuIsGradientTarget": True,
-    # Menus unroll quickly as they open.
-    "AnimationType": 1, "AnimationHType": 1, "AnimationSpeed": 2,
-    # Task list and systray in the same colours.
-    "TaskbarStyle": 0, "TaskbarOrientation": 1, "TaskbarBackgroundType": 0, "TaskbarGradientType": 0,
-    "TaskbarIconSize": 1, "TaskbarTileBitmap": False, "TaskbarWrapGradient": False, "TaskbarColor1": "#1C1F2D",
-    "TaskbarColor2": "#2A2E3E", "TaskbarFrame": 1, "MenuMaxNoItems": 9999, "MenuToggleSubMenus": False,
-    "Button3DStyle": 0, "TaskbarFrameColor1": "#4B4F6E", "TaskbarFrameColor2": "#0B0C13",
-    # A 3D frame: a light line on the top and left, a dark one on the bottom and right.
-    "MenuNoFrames": 0, "Menu3DFrame": True, "MenuFrameColor": "#4B4F6E", "MenuFrameColor2": "#0B0C13",
-    "Menu3DFrame2": False, "MenuFrameColor3": "#2A2E42", "MenuFrameColor4": "#101118", "MenuFrameToBody": False,
-    "SysTileWallpaper": "", "HorzNoTitlebar": True, "HorzLockWidth": True, "HorzAutoRotate": False,
-    "HorzButtonsOnly": False, "MenuOverlapMenus": False, "TitleOverlap": True, "TitleInactiveOverlap": True,
-}
-
-
 def look_keys():
     """(name, type) of every key a theme file holds, in the catalogue's order."""
     source = open(os.path.join(REPO, "src", "core", "settings_catalogue.cpp"), encoding="utf-8").read()
     keys = []
-    for name, kind, group in re.findall(r"SETTING\((\w+),\s*(\w+),\s*(kLook|kGeneral)\)", source):
+    for name, kind, group in re.findall(r"SETTING\((\w+),\s*(\w+),\s*(kLook|kGeneral)\b", source):
         if group == "kGeneral":
             break
         keys.append((name, kind))
@@ -533,14 +656,23 @@ def value_text(name, kind, value):
     return value
 
 
-def theme_file():
+def theme_values(theme):
+    values = dict(COMMON_KEYS)
+    values.update(theme["keys"])
+    values.update({"GenThemeAuthor": "Tarvex", "GenThemeName": theme["name"],
+                   "BitmapsFolder": "Themes\\" + theme["name"]})
+    return values
+
+
+def theme_file(theme):
     keys = look_keys()
+    values = theme_values(theme)
     names = [name for name, _ in keys]
-    missing = [n for n in names if n not in WST_VALUES]
-    unknown = [n for n in WST_VALUES if n not in names]
+    missing = [n for n in names if n not in values]
+    unknown = [n for n in values if n not in names]
     if missing or unknown or names[-1] != "TitleInactiveOverlap":
-        sys.exit(f"theme keys out of step with the catalogue: missing {missing}, unknown {unknown}")
-    lines = ["[TARVEX]"] + [f"{name}={value_text(name, kind, WST_VALUES[name])}" for name, kind in keys]
+        sys.exit(f"{theme['name']}: theme keys out of step with the catalogue: missing {missing}, unknown {unknown}")
+    lines = ["[TARVEX]"] + [f"{name}={value_text(name, kind, values[name])}" for name, kind in keys]
     # An ANSI profile file with Windows line ends, as the profile functions read it.
     return ("\r\n".join(lines) + "\r\n").encode("ascii")
 
@@ -552,50 +684,63 @@ def write(folder, name, data):
         f.write(data)
 
 
-def main():
-    folder = sys.argv[1] if len(sys.argv) > 1 else os.path.join(REPO, "resources", "themes", THEME)
-    os.makedirs(folder, exist_ok=True)
-    write(folder, THEME + ".wst", theme_file())
+def selection_picture(selection):
+    kind, (width, height), art, backdrop = selection
+    return SELECTIONS[kind](width, height, art, backdrop)
 
-    title_active = title_bar(256, 24, AURORA, True)
-    title_inactive = title_bar(256, 24, SLATES, False)
+
+def draw_theme(theme, folder):
+    os.makedirs(folder, exist_ok=True)
+    write(folder, theme["name"] + ".wst", theme_file(theme))
+
+    width, height = theme["title_size"]
+    title_active = title_bar(width, height, theme["title"])
+    title_inactive = title_bar(width, height, theme["title_inactive"])
     write(folder, "TitleA.bmp", bmp_bytes(title_active))
     write(folder, "TitleI.bmp", bmp_bytes(title_inactive))
     # The turned title reads upwards: the run starts at the bottom, the gloss is at the left.
-    write(folder, "VTitleA.bmp", bmp_bytes(title_bar(256, 24, AURORA, True).rotated_left()))
-    write(folder, "VTitleI.bmp", bmp_bytes(title_bar(256, 24, SLATES, False).rotated_left()))
-    write(folder, "ButtonA.bmp", bmp_bytes(texture(48, BODY, 0.025, 0.035)))
-    write(folder, "ButtonI.bmp", bmp_bytes(texture(48, BODY_INACTIVE, 0.02, 0.025)))
-    sel_run = [(0.0, rgb("#13B5A3")), (1.0, rgb("#7B5CF5"))]
-    write(folder, "ButtonAS.bmp", bmp_bytes(selection_pill(200, 24, sel_run, BODY)))
-    write(folder, "ButtonIS.bmp", bmp_bytes(selection_pill(200, 24, SLATES, BODY_INACTIVE)))
-    write(folder, "Tasks.bmp", bmp_bytes(title_bar(256, 40, [(0.0, SLATE_DARK), (1.0, BODY)], False)))
+    write(folder, "VTitleA.bmp", bmp_bytes(title_bar(width, height, theme["title"]).rotated_left()))
+    write(folder, "VTitleI.bmp", bmp_bytes(title_bar(width, height, theme["title_inactive"]).rotated_left()))
+    write(folder, "ButtonA.bmp", bmp_bytes(texture(*theme["body"])))
+    write(folder, "ButtonI.bmp", bmp_bytes(texture(*theme["body_inactive"])))
+    write(folder, "ButtonAS.bmp", bmp_bytes(selection_picture(theme["selection"])))
+    write(folder, "ButtonIS.bmp", bmp_bytes(selection_picture(theme["selection_inactive"])))
+    write(folder, "Tasks.bmp", bmp_bytes(title_bar(256, 40, theme["tasks"])))
 
-    states = {
-        "A": (rgb("#8FF0E2"), rgb("#1F9C8F")),
-        "I": (rgb("#A4A9BD"), rgb("#5D6277")),
-        "AS": (WHITE, rgb("#D9D2FF")),
-        "IS": (rgb("#EDEDF5"), rgb("#B5B5C8")),
-    }
-    arrows = {"Arrow": ("right", "A I AS IS"), "HzArrow": ("down", "A I AS IS"), "UpArrow": ("up", "A I"),
-              "DnArrow": ("down", "A I AS IS"), "LfArrow": ("left", "A I"), "RgArrow": ("right", "A I")}
-    for stem, (direction, forms) in arrows.items():
+    symbols = theme["symbols"]
+    icon_sizes = theme.get("icon_sizes", ICON_SIZES)
+    for stem, (direction, forms) in ARROWS.items():
         for form in forms.split():
-            light, dark = states[form]
-            pictures = [arrow_picture(n, direction, light, dark) for n in (16, 24, 32)]
+            light, dark = symbols[form]
+            pictures = [arrow_picture(n, direction, light, dark, symbols["arrow"]) for n in icon_sizes]
             write(folder, f"{stem}{form}.ico", ico_bytes(pictures))
-    for form, (light, dark) in states.items():
-        pictures = [command_key_picture(n, light, dark) for n in (16, 24, 32)]
+    for form in ("A", "I", "AS", "IS"):
+        light, dark = symbols[form]
+        pictures = [command_key_picture(n, light, dark, symbols["command"]) for n in icon_sizes]
         write(folder, f"ComSymb{form}.ico", ico_bytes(pictures))
 
-    for base, (glyph, top, bottom) in BUTTONS.items():
-        for form, inactive, pressed in (("A", False, False), ("I", True, False), ("AP", False, True),
-                                        ("IP", True, True)):
-            t, b = (greyed(top), greyed(bottom)) if inactive else (top, bottom)
-            pictures = [title_button_picture(n, glyph, t, b, pressed) for n in (16, 20, 24, 32, 40)]
+    for base in ("Close", "Rollup", "OnTop", "Rotate"):
+        for form, inactive, pressed in FORMS:
+            pictures = title_button_pictures(theme["buttons"], base, form, inactive, pressed)
             write(folder, f"{base}{form}.ico", ico_bytes(pictures))
 
-    write(folder, "Systray.ico", ico_bytes([systray_picture(n) for n in (16, 24, 32)]))
+    write(folder, "Systray.ico", ico_bytes([systray_picture(n, theme["systray"]) for n in (16, 24, 32)]))
+    theme_sounds.write_sounds(folder, theme_sounds.VOICES[theme["voice"]], write)
+
+
+def main():
+    args = sys.argv[1:]
+    into = os.path.join(REPO, "resources", "themes")
+    if "--into" in args:
+        at = args.index("--into")
+        into = args[at + 1]
+        del args[at:at + 2]
+    by_name = {theme["name"]: theme for theme in THEMES}
+    unknown = [name for name in args if name not in by_name]
+    if unknown:
+        sys.exit(f"no theme named {', '.join(unknown)}; the themes are {', '.join(by_name)}")
+    for name in args or list(by_name):
+        draw_theme(by_name[name], os.path.join(into, name))
 
 
 if __name__ == "__main__":

@@ -5,6 +5,7 @@
 
 #include <windows.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 
@@ -32,6 +33,7 @@ void FailureScreenshots::OnTestPartResult(const ::testing::TestPartResult& resul
     if (!test)
         return;
     std::string name = std::string(test->test_suite_name()) + "." + test->name();
+    std::replace(name.begin(), name.end(), '/', '-'); // a parameterised test's "Shipped/Themes.Paint/Paper"
     std::string path = ScreenshotFolder() + "\\" + name + ".bmp";
     if (SaveNamedScreenshot(name))
         std::fprintf(stderr, "screenshot of the failure: %s\n", path.c_str());
