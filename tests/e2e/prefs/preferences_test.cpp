@@ -18,6 +18,7 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
+#include <map>
 
 namespace {
 
@@ -112,10 +113,43 @@ protected:
 };
 
 // Fonts the test machine has (tools/bootstrap.sh installs them): a theme with a missing
-// font is loaded with a warning.
+// font is loaded with a warning. The look's pictures stand in a folder of their own.
 class ThemesPage : public Preferences {
 protected:
-    ThemesPage() { extraSettings = "TitleFont=DejaVu Sans\nButtonFont=DejaVu Sans\n"; }
+    ThemesPage() {
+        extraSettings = "TitleFont=DejaVu Sans\nButtonFont=DejaVu Sans\nBitmapsFolder=" + folder.File("Look") + "\n";
+        ::CreateDirectoryW(Win::Widen(folder.File("Look")).c_str(), nullptr);
+        folder.WriteBytes("Look\\TitleA.bmp", "BM a title picture");
+        folder.WriteBytes("Look\\CloseA.ico", "an icon");
+    }
+
+    // Every file of a theme's folder with its bytes.
+    std::map<std::string, std::string> ThemeFiles(const std::string& theme) const {
+        std::map<std::string, std::string> files;
+        WIN32_FIND_DATAW found{};
+        const std::string folderPath = "Themes\\" + theme + "\\";
+        HANDLE search = ::FindFirstFileW(Win::Widen(folder.File(folderPath + "*")).c_str(), &found);
+        for (bool more = search != INVALID_HANDLE_VALUE; more; more = ::FindNextFileW(search, &found))
+            if (!(found.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY))
+                files[Win::Narrow(found.cFileName)] = folder.ReadBytes(folderPath + Win::Narrow(found.cFileName));
+        if (search != INVALID_HANDLE_VALUE)
+            ::FindClose(search);
+        return files;
+    }
+
+    // The page's list of themes, right of the list of pages.
+    std::optional<WindowInfo> ThemeList(HWND window) const {
+        std::optional<WindowInfo> pages = VisibleControl(window, "ListBox", "");
+        for (const WindowInfo& list : AllControls(window))
+            if (pages && list.className == "ListBox" && list.visible && list.rect.left > pages->rect.left)
+                return list;
+        return std::nullopt;
+    }
+
+    bool Press(HWND window, std::string_view button) {
+        std::optional<WindowInfo> found = VisibleControl(window, "Button", button);
+        return found && ClickWindow(found->hwnd);
+    }
 };
 
 } // namespace
@@ -335,10 +369,7 @@ TEST_F(ThemesPage, ALookSavedAsAThemeComesBackWhenLoadedAndADeletedThemeIsGone) 
     std::optional<WindowInfo> preview = PreviewWindow(window);
     ASSERT_TRUE(preview);
     const std::string titleColour = folder.ReadSetting("TitleColor");
-    auto press = [&](std::string_view button) {
-        std::optional<WindowInfo> found = VisibleControl(window, "Button", button);
-        return found && ClickWindow(found->hwnd);
-    };
+    auto press = [&](std::string_view button) { return Press(window, button); };
 
     ASSERT_TRUE(ShowPreferencePage(window, "Themes"));
     std::optional<WindowInfo> name = ControlBesideLabel(window, "&Name:", "Edit");
@@ -352,10 +383,7 @@ TEST_F(ThemesPage, ALookSavedAsAThemeComesBackWhenLoadedAndADeletedThemeIsGone) 
     ASSERT_TRUE(WaitUntil([&] { return RedInTitle(preview->hwnd) > 100; }, 10s));
 
     ASSERT_TRUE(ShowPreferencePage(window, "Themes"));
-    std::optional<WindowInfo> themes = VisibleControl(window, "ListBox", "");
-    for (const WindowInfo& list : AllControls(window))
-        if (list.className == "ListBox" && list.visible && list.rect.left > themes->rect.left)
-            themes = list; // the page's list, right of the page list
+    std::optional<WindowInfo> themes = ThemeList(window);
     ASSERT_TRUE(themes && Click(themes->rect.left + 20, themes->rect.top + 6)) << "Mine is the only theme";
     EXPECT_TRUE(WaitUntil([&] { return RedInTitle(preview->hwnd) == 0; }, 10s)) << "the preview shows the chosen theme";
     ASSERT_TRUE(press("&Load Theme"));
@@ -379,4 +407,42 @@ TEST_F(ThemesPage, ALookSavedAsAThemeComesBackWhenLoadedAndADeletedThemeIsGone) 
     ASSERT_TRUE(WaitUntil([&] { return !::IsWindow(window); }, 10s));
     EXPECT_EQ(folder.ReadSetting("TitleColor"), titleColour);
     EXPECT_EQ(folder.ReadSetting("GenThemeName"), "Mine");
+}
+
+TEST_F(ThemesPage, AThemeExportedAndImportedAgainIsTheSameFileForFile) {
+    HWND window = Open();
+    ASSERT_TRUE(window);
+    ASSERT_TRUE(ShowPreferencePage(window, "Themes"));
+    std::optional<WindowInfo> name = ControlBesideLabel(window, "&Name:", "Edit");
+    ASSERT_TRUE(name);
+    ::SendMessageW(name->hwnd, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"Mine"));
+    ASSERT_TRUE(Press(window, "&Save Theme"));
+    ASSERT_TRUE(WaitUntil([&] { return VisibleControl(window, "Static", "Saved as Mine.").has_value(); }, 10s));
+    const std::map<std::string, std::string> saved = ThemeFiles("Mine");
+    EXPECT_TRUE(saved.contains("Mine.wst") && saved.contains("TitleA.bmp") && saved.contains("CloseA.ico"))
+        << saved.size() << " files";
+
+    ASSERT_TRUE(Press(window, "E&xport")); // Mine, saved last, is chosen
+    ASSERT_TRUE(WaitUntil([&] { return folder.Exists("Export\\Mine.zip"); }, 10s));
+    ASSERT_TRUE(Press(window, "&Delete Theme"));
+    std::optional<WindowInfo> question = WaitForMessageBox(tarvex.processId());
+    ASSERT_TRUE(question && PressButton(question->hwnd, "OK"));
+    ASSERT_TRUE(WaitUntil([&] { return !folder.Exists("Themes\\Mine"); }, 10s));
+
+    ASSERT_TRUE(Press(window, "&Import..."));
+    std::optional<WindowInfo> open = WaitForMessageBox(tarvex.processId());
+    ASSERT_TRUE(open);
+    HWND file = nullptr;
+    for (const WindowInfo& child : ChildWindows(open->hwnd))
+        if (child.className == "Edit" && child.visible)
+            file = child.hwnd;
+    ASSERT_TRUE(file) << "no file name field in " << open->title;
+    ::SendMessageW(file, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(Win::Widen(folder.File("Export\\Mine.zip")).c_str()));
+    ASSERT_TRUE(PressButton(open->hwnd, "Open"));
+    ASSERT_TRUE(WaitUntil([&] { return folder.Exists("Themes\\Mine\\Mine.wst"); }, 10s));
+    EXPECT_TRUE(WaitUntil([&] { return ThemeFiles("Mine") == saved; }, 10s)) << "the imported theme differs";
+    std::optional<WindowInfo> themes = ThemeList(window);
+    ASSERT_TRUE(themes);
+    EXPECT_EQ(::SendMessageW(themes->hwnd, LB_GETCOUNT, 0, 0), 1);
+    EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
 }
