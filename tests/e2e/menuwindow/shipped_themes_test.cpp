@@ -125,7 +125,7 @@ TEST_P(Themes, PaintAStartUpMenuAndASubMenuWithTheirPictures) {
         ASSERT_NE(expected, CLR_INVALID);
         COLORREF shown = ReadPixel(r.left + (r.right - r.left) / 2, r.top + top + y);
         if (!Near(shown, expected))
-            differing += " " + std::to_string(y);
+            differing.append(" ").append(std::to_string(y));
     }
     EXPECT_EQ(differing, "") << "rows of the title unlike its picture";
 
