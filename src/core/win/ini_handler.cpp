@@ -2,6 +2,7 @@
 
 #include "core/message_box.h"
 #include "core/paths.h"
+#include "core/profile_reads.h"
 #include "core/text.h"
 #include "win/handles.h"
 #include "win/text_convert.h"
@@ -29,8 +30,9 @@ Target& CurrentTarget() {
 }
 
 constexpr DWORD kValueBufferSize = 255;
-constexpr DWORD kKeyListBufferSize = 16384;
-constexpr DWORD kKeyListBufferLimit = 16384 * 1024;
+constexpr std::size_t kListBufferSize = 16384;
+// 64 M characters: far beyond any real profile, and an allocation a 32-bit process gets.
+constexpr std::size_t kListBufferLimit = std::size_t{64} << 20;
 
 std::string CurrentDirectoryOfDrive(char drive) {
     wchar_t buffer[MAX_PATH * 2];
@@ -46,16 +48,37 @@ std::string CurrentDirectoryOfDrive(char drive) {
     return Win::Narrow(std::wstring_view(buffer, n));
 }
 
+// Key names compare with their ASCII letters folded, as Wine's profile functions compare
+// them. The program's own key names are all ASCII, so a wider folding could differ only
+// on names typed into a file by hand.
+std::wstring LowerCase(std::wstring text) {
+    for (wchar_t& c : text)
+        if (c >= L'A' && c <= L'Z')
+            c = static_cast<wchar_t>(c - L'A' + L'a');
+    return text;
+}
+
+// A list read from a file never holds more characters than the file has bytes, in any
+// encoding; a missing file gives the smallest buffer.
+std::size_t ListLimitFor(const std::wstring& file) {
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (!::GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &data))
+        return kListBufferSize;
+    const std::uint64_t bytes = (std::uint64_t{data.nFileSizeHigh} << 32) | data.nFileSizeLow;
+    return static_cast<std::size_t>(std::min<std::uint64_t>(bytes + 2, kListBufferLimit));
+}
+
 // A list of NUL-ended strings ended by another NUL, as the profile functions return
-// lists; the buffer grows until the list is whole.
+// lists; the buffer grows until the list is whole or holds `limit` characters.
 template <class Read>
-std::vector<std::wstring> ReadList(Read read) {
+std::vector<std::wstring> ReadList(Read read, std::size_t limit) {
     std::vector<wchar_t> buffer;
     DWORD n = 0;
-    for (DWORD size = kKeyListBufferSize; size <= kKeyListBufferLimit; size *= 2) {
-        buffer.assign(size, L'\0');
-        n = read(buffer.data(), size);
-        if (n + 2 < size)
+    for (std::size_t size = kListBufferSize;; size *= 2) {
+        size = std::min(size, std::max(limit, kListBufferSize));
+        buffer.resize(size);
+        n = read(buffer.data(), static_cast<DWORD>(size));
+        if (n + 2 < size || size >= limit)
             break;
     }
     std::vector<std::wstring> list;
@@ -99,18 +122,21 @@ std::int16_t ReadSection(ProfileSection& table) {
     const Target& t = CurrentTarget();
     if (!t.registered)
         return 0;
-    // The key list grows until it is whole: a cut list would drop the keys past the
-    // cut, and the next save of a menu file would then delete those items for good.
-    std::vector<std::wstring> names = ReadList([&](wchar_t* buffer, DWORD size) {
-        return ::GetPrivateProfileStringW(t.section.c_str(), nullptr, L"", buffer, size, t.file.c_str());
-    });
-    for (const std::wstring& name : names) {
-        std::string key = Win::Narrow(name);
-        std::string value = ReadValue(key, "");
-        table.push_back({std::move(key), std::move(value)});
-    }
+    // One read of the whole section, answered key by key as the key reads would answer.
+    // The list grows until it is whole: a cut list would drop the keys past the cut, and
+    // the next save of a menu file would then delete those items for good.
+    std::vector<std::wstring> lines = ReadList(
+        [&](wchar_t* buffer, DWORD size) {
+            return ::GetPrivateProfileSectionW(t.section.c_str(), buffer, size, t.file.c_str());
+        },
+        ListLimitFor(t.file));
+    std::vector<std::pair<std::wstring, std::wstring>> keys =
+        ProfileReads::KeysAsRead(lines, LowerCase, kValueBufferSize - 1);
+    table.reserve(table.size() + keys.size());
+    for (const auto& [key, value] : keys)
+        table.push_back({Win::Narrow(key), Win::Narrow(value)});
     // The table holds them all; the count is 16 bits, as callers expect.
-    return static_cast<std::int16_t>(std::min<std::size_t>(names.size(), INT16_MAX));
+    return static_cast<std::int16_t>(std::min<std::size_t>(keys.size(), INT16_MAX));
 }
 
 ProfileSection ReadWholeSection(std::string_view section, std::string_view file) {
@@ -122,14 +148,15 @@ ProfileSection ReadWholeSection(std::string_view section, std::string_view file)
 
 std::vector<NamedSection> ReadWholeFile(std::string_view file) {
     const std::wstring wideFile = Win::Widen(file);
+    const std::size_t limit = ListLimitFor(wideFile);
     std::vector<NamedSection> sections;
     for (const std::wstring& name : ReadList([&](wchar_t* buffer, DWORD size) {
              return ::GetPrivateProfileSectionNamesW(buffer, size, wideFile.c_str());
-         })) {
+         }, limit)) {
         NamedSection section{Win::Narrow(name), {}};
         for (const std::wstring& line : ReadList([&](wchar_t* buffer, DWORD size) {
                  return ::GetPrivateProfileSectionW(name.c_str(), buffer, size, wideFile.c_str());
-             })) {
+             }, limit)) {
             std::size_t equals = line.find(L'=');
             if (equals != std::wstring::npos)
                 section.entries.push_back({Win::Narrow(line.substr(0, equals)), Win::Narrow(line.substr(equals + 1))});
