@@ -48,16 +48,6 @@ std::string CurrentDirectoryOfDrive(char drive) {
     return Win::Narrow(std::wstring_view(buffer, n));
 }
 
-// Key names compare with their ASCII letters folded, as Wine's profile functions compare
-// them. The program's own key names are all ASCII, so a wider folding could differ only
-// on names typed into a file by hand.
-std::wstring LowerCase(std::wstring text) {
-    for (wchar_t& c : text)
-        if (c >= L'A' && c <= L'Z')
-            c = static_cast<wchar_t>(c - L'A' + L'a');
-    return text;
-}
-
 // A list read from a file never holds more characters than the file has bytes, in any
 // encoding; a missing file gives the smallest buffer.
 std::size_t ListLimitFor(const std::wstring& file) {
@@ -69,24 +59,29 @@ std::size_t ListLimitFor(const std::wstring& file) {
 }
 
 // A list of NUL-ended strings ended by another NUL, as the profile functions return
-// lists; the buffer grows until the list is whole or holds `limit` characters.
-template <class Read>
-std::vector<std::wstring> ReadList(Read read, std::size_t limit) {
+// lists, read into one buffer that grows until the list is whole or holds `limit`
+// characters.
+struct List {
     std::vector<wchar_t> buffer;
+    std::vector<std::wstring_view> items; // into the buffer
+};
+
+template <class Read>
+List ReadList(Read read, std::size_t limit) {
+    List list;
     DWORD n = 0;
     for (std::size_t size = kListBufferSize;; size *= 2) {
         size = std::min(size, std::max(limit, kListBufferSize));
-        buffer.resize(size);
-        n = read(buffer.data(), static_cast<DWORD>(size));
+        list.buffer.resize(size);
+        n = read(list.buffer.data(), static_cast<DWORD>(size));
         if (n + 2 < size || size >= limit)
             break;
     }
-    std::vector<std::wstring> list;
     for (std::size_t pos = 0; pos < n;) {
-        std::wstring_view item(buffer.data() + pos);
+        std::wstring_view item(list.buffer.data() + pos);
         if (item.empty())
             break;
-        list.emplace_back(item);
+        list.items.push_back(item);
         pos += item.size() + 1;
     }
     return list;
@@ -125,13 +120,12 @@ std::int16_t ReadSection(ProfileSection& table) {
     // One read of the whole section, answered key by key as the key reads would answer.
     // The list grows until it is whole: a cut list would drop the keys past the cut, and
     // the next save of a menu file would then delete those items for good.
-    std::vector<std::wstring> lines = ReadList(
+    const List lines = ReadList(
         [&](wchar_t* buffer, DWORD size) {
             return ::GetPrivateProfileSectionW(t.section.c_str(), buffer, size, t.file.c_str());
         },
         ListLimitFor(t.file));
-    std::vector<std::pair<std::wstring, std::wstring>> keys =
-        ProfileReads::KeysAsRead(lines, LowerCase, kValueBufferSize - 1);
+    const auto keys = ProfileReads::KeysAsRead(lines.items, kValueBufferSize - 1);
     table.reserve(table.size() + keys.size());
     for (const auto& [key, value] : keys)
         table.push_back({Win::Narrow(key), Win::Narrow(value)});
@@ -150,13 +144,18 @@ std::vector<NamedSection> ReadWholeFile(std::string_view file) {
     const std::wstring wideFile = Win::Widen(file);
     const std::size_t limit = ListLimitFor(wideFile);
     std::vector<NamedSection> sections;
-    for (const std::wstring& name : ReadList([&](wchar_t* buffer, DWORD size) {
-             return ::GetPrivateProfileSectionNamesW(buffer, size, wideFile.c_str());
-         }, limit)) {
+    const List names = ReadList(
+        [&](wchar_t* buffer, DWORD size) { return ::GetPrivateProfileSectionNamesW(buffer, size, wideFile.c_str()); },
+        limit);
+    for (std::wstring_view name : names.items) {
         NamedSection section{Win::Narrow(name), {}};
-        for (const std::wstring& line : ReadList([&](wchar_t* buffer, DWORD size) {
-                 return ::GetPrivateProfileSectionW(name.c_str(), buffer, size, wideFile.c_str());
-             }, limit)) {
+        const std::wstring wideName(name);
+        const List lines = ReadList(
+            [&](wchar_t* buffer, DWORD size) {
+                return ::GetPrivateProfileSectionW(wideName.c_str(), buffer, size, wideFile.c_str());
+            },
+            limit);
+        for (std::wstring_view line : lines.items) {
             std::size_t equals = line.find(L'=');
             if (equals != std::wstring::npos)
                 section.entries.push_back({Win::Narrow(line.substr(0, equals)), Win::Narrow(line.substr(equals + 1))});

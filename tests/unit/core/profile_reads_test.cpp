@@ -1,7 +1,6 @@
 // The keys and values a section gives read key by key, from the section's lines. The
 // Wine tier checks the same rules against the platform on random files.
 #include "core/profile_reads.h"
-#include "core/text.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +13,11 @@ namespace {
 using Keys = std::vector<std::pair<std::string, std::string>>;
 
 Keys Read(const std::vector<std::string>& lines, std::size_t limit = 254) {
-    return ProfileReads::KeysAsRead(lines, Text::ToLower, limit);
+    const std::vector<std::string_view> views(lines.begin(), lines.end());
+    Keys keys;
+    for (const auto& [key, value] : ProfileReads::KeysAsRead(views, limit))
+        keys.emplace_back(key, value);
+    return keys;
 }
 
 } // namespace
@@ -29,6 +32,7 @@ TEST(ProfileReads, KeysReadAsTheKeyByKeyReadsWould) {
         {"plain, in file order", {"b=2", "a=1"}, {{"b", "2"}, {"a", "1"}}},
         {"blanks around both sides go", {" a \t= \t1 x "}, {{"a", "1 x"}}},
         {"a duplicate reads the first, whatever its case", {"Key=1", "kEY=2"}, {{"Key", "1"}, {"kEY", "1"}}},
+        {"only ASCII letters fold", {"\xC3\xA9=1", "\xC3\x89=2"}, {{"\xC3\xA9", "1"}, {"\xC3\x89", "2"}}},
         {"the value is cut at the first '=' only", {"a=b=c"}, {{"a", "b=c"}}},
         {"a line without '=' is no key, but shadows a later one", {"a", "A=5", "b=6"}, {{"A", ""}, {"b", "6"}}},
         {"an empty name ends the list", {"a=1", "=x", "b=2"}, {{"a", "1"}}},
