@@ -1,5 +1,6 @@
 #include "menuwindow/win/theme_pictures.h"
 
+#include "menuwindow/look/bitmap_file.h"
 #include "menuwindow/look/pictures.h"
 #include "menuwindow/win/gdiplus_session.h"
 #include "win/text_convert.h"
@@ -19,6 +20,20 @@ Size SizeOf(HBITMAP bitmap) {
     if (!::GetObjectW(bitmap, sizeof info, &info))
         return {};
     return {info.bmWidth, info.bmHeight};
+}
+
+// Reads the head of a .bmp file and loads it only when it holds its whole picture.
+HBITMAP LoadBmp(const std::wstring& path) {
+    Win::UniqueFileHandle file(::CreateFileW(path.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING,
+                                             FILE_ATTRIBUTE_NORMAL, nullptr));
+    LARGE_INTEGER size{};
+    unsigned char head[kBitmapHeadSize];
+    DWORD read = 0;
+    if (!file || !::GetFileSizeEx(file.get(), &size) || !::ReadFile(file.get(), head, sizeof head, &read, nullptr) ||
+        CheckBitmapFile(std::span(head, read), static_cast<std::uint64_t>(size.QuadPart)) != BitmapFileCheck::Fits)
+        return nullptr;
+    return static_cast<HBITMAP>(
+        ::LoadImageW(nullptr, path.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION));
 }
 
 HBITMAP LoadJpeg(const std::wstring& path) {
@@ -86,8 +101,7 @@ HBITMAP ThemePictures::Bitmap(const std::string& file) {
     HBITMAP loaded = nullptr;
     switch (PictureFormatOf(file)) {
     case PictureFormat::Bmp:
-        loaded = static_cast<HBITMAP>(
-            ::LoadImageW(nullptr, path.c_str(), IMAGE_BITMAP, 0, 0, LR_LOADFROMFILE | LR_CREATEDIBSECTION));
+        loaded = LoadBmp(path);
         break;
     case PictureFormat::Jpg:
         loaded = LoadJpeg(path);

@@ -106,3 +106,10 @@ TEST_F(FolderMenu, TheSecondFolderIsListedIntoTheSameMenu) {
     request.secondFolder = request.folder;
     EXPECT_EQ(ListFolder(request, settings).entries.size(), 5u) << "the same folder twice is listed once";
 }
+
+TEST_F(FolderMenu, APathOf32000CharactersListsNothingAndTheOtherFolderStill) {
+    FolderListRequest request = Request();
+    request.secondFolder = request.folder;
+    request.folder = std::string(32000, 'd') + "\\";
+    EXPECT_EQ(ListFolder(request, settings).entries.size(), 5u);
+}

@@ -50,7 +50,7 @@ TEST_F(LauncherTest, AProgramStartsWithItsArgumentsInItsStartFolderEvenWithUnico
 
 TEST_F(LauncherTest, HugeOrEmptyPathsAndArgumentsEndInABoxOrAStartNeverACrash) {
     AnsweredMessageBoxes boxes(MessageBoxes::kOk);
-    Launcher::RunProgram(program, "Long", "", std::string(10000, 'a') + ".exe", "", 0);
+    Launcher::RunProgram(program, "Long", "", std::string(32000, 'a') + ".exe", "", 0);
     Launcher::RunProgram(program, "Empty", "", "", "", 0);
     ASSERT_EQ(boxes.requests.size(), 2u);
     EXPECT_EQ(boxes.requests[0].title, "Tarvex - Error running Long");
