@@ -41,6 +41,11 @@ bool MoveMouse(int x, int y) {
     return false;
 }
 
+bool SweepMouseTo(int x, int y) {
+    SendMouse(x, y, 0);
+    return WaitUntil([&] { return CursorAt(x, y); }, 1s);
+}
+
 bool Click(int x, int y, Button button) {
     if (!MoveMouse(x, y))
         return false;

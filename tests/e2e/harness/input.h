@@ -14,6 +14,9 @@ enum class Button { Left, Right, Middle };
 
 // False when the cursor would not stay at the point.
 bool MoveMouse(int x, int y);
+// One move, waiting only until the cursor is there: for sweeps of many moves, where
+// MoveMouse's check that the cursor stays would take most of the time.
+bool SweepMouseTo(int x, int y);
 bool Click(int x, int y, Button button = Button::Left);
 // A click whose button events carry the point themselves: while a popup menu of the
 // program tracks the mouse, Wine keeps the cursor where it is against moves from
