@@ -40,6 +40,8 @@ public:
                              nullptr, nullptr, &startup, &info)) {
             ::CloseHandle(info.hThread);
             process_.reset(info.hProcess);
+        } else {
+            error_ = ::GetLastError();
         }
     }
     ~SaveLoop() {
@@ -48,6 +50,7 @@ public:
     }
 
     HANDLE process() const { return process_.get(); }
+    DWORD error() const { return error_; } // why it could not be started
 
     // The exit code once it has ended; STILL_ACTIVE when it did not end in time.
     DWORD Ended(DWORD timeoutMs) const {
@@ -59,6 +62,7 @@ public:
 
 private:
     Win::UniqueKernelHandle process_;
+    DWORD error_ = 0;
 };
 
 std::optional<FILETIME> LastWrite(const std::string& file) {
@@ -109,7 +113,7 @@ TEST(SaveKills, AThousandKillsWhileSavingLeaveEveryFileWholeAndOldOrNew) {
         ::ResetEvent(ready.get());
         // Every other run saves the settings first.
         SaveLoop loop(folder.path(), kill % 2, 0, ready.get());
-        ASSERT_TRUE(loop.process());
+        ASSERT_TRUE(loop.process()) << "kill " << kill << ": save_loop.exe not started, error " << loop.error();
         HANDLE started[] = {ready.get(), loop.process()};
         ASSERT_EQ(::WaitForMultipleObjects(2, started, FALSE, 30000), WAIT_OBJECT_0)
             << "kill " << kill << ": save_loop.exe ended or hung before saving";
