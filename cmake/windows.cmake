@@ -60,7 +60,8 @@ endif()
 
 # Helpers shared by the shell tests and the end-to-end tests.
 add_library(tarvex_test_support STATIC ${CMAKE_SOURCE_DIR}/tests/support/temp_folder.cpp
-                                       ${CMAKE_SOURCE_DIR}/tests/support/test_pictures.cpp)
+                                       ${CMAKE_SOURCE_DIR}/tests/support/test_pictures.cpp
+                                       ${CMAKE_SOURCE_DIR}/tests/support/key_by_key.cpp)
 target_include_directories(tarvex_test_support PUBLIC ${CMAKE_SOURCE_DIR}/tests)
 target_link_libraries(tarvex_test_support PUBLIC tarvex_shell)
 

@@ -11,6 +11,7 @@
 struct NamedSection {
     std::string name;
     ProfileSection entries;
+    bool operator==(const NamedSection&) const = default;
 };
 
 // The file's sections in their order, each key once (the first of two equal keys, as

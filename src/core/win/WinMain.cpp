@@ -1,5 +1,6 @@
 // Entry point of tarvex2.exe: the main form's start-up, then the message loop that
 // runs the program until its exit.
+#include "core/win/crash_handler.h"
 #include "core/win/form1.h"
 #include "core/win/message_box_win.h"
 #include "core/win/program.h"
@@ -33,6 +34,7 @@ int WINAPI wWinMain(HINSTANCE instance, HINSTANCE, PWSTR arguments, int) {
     program.iconResource = IDI_TARVEX;
     program.arguments = Win::Narrow(arguments ? arguments : L"");
     Form1 form1(program);
+    CrashHandler crashHandler(form1);
     if (!form1.Create())
         return 1;
     if (form1.Form_Load() == Form1::LoadResult::EndProcess)

@@ -147,7 +147,8 @@ void Form1::RunFirstRun() {
     FirstRunIntroduction::ShowModal(program_.instance, window_.get(), program_.iconResource);
     Show_Setup_Screen();
     std::string settingsFile = SettingsFile(program_.values);
-    if (!SystemValues::FileExists(settingsFile) && !SettingsStore::Save(settingsFile, false, program_.settings))
+    if (!SystemValues::FileExists(settingsFile) && !SettingsStore::Save(settingsFile, false, program_.settings).saved &&
+        program_.saveNotices.First(SaveNotices::Kind::SettingsFile))
         MessageBoxes::MsgBox(StartupRules::SettingsNotWrittenMessage(settingsFile), "Tarvex Warning",
                              MessageBoxes::kExclamation);
 }

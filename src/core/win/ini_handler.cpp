@@ -176,23 +176,6 @@ bool CreateUnicodeProfile(std::string_view file) {
     return ::WriteFile(h.get(), bom, sizeof bom, &written, nullptr) && written == sizeof bom;
 }
 
-bool WriteValue(std::string_view section, std::string_view file, std::string_view key, std::string_view value) {
-    CreateUnicodeProfile(file);
-    std::wstring wideSection = Win::Widen(section);
-    std::wstring wideKey = Win::Widen(key);
-    std::wstring wideValue = Win::Widen(value);
-    std::wstring wideFile = Win::Widen(file);
-    return ::WritePrivateProfileStringW(wideSection.c_str(), wideKey.c_str(), wideValue.c_str(), wideFile.c_str()) !=
-           FALSE;
-}
-
-bool WriteAll(std::string_view file, const ProfileWrites& writes) {
-    for (const ProfileWrite& w : writes)
-        if (!WriteValue(w.section, file, w.key, w.value))
-            return false;
-    return true;
-}
-
 std::string FolderOfPath(std::string_view path) {
     std::wstring folder = Win::Widen(Paths::FolderOfPath(path, CurrentDirectoryOfDrive));
     ::CharUpperBuffW(folder.data(), static_cast<DWORD>(folder.size()));

@@ -1,6 +1,6 @@
-// Reading and writing profile (INI) files through the wide profile functions.
-// Reads use one current target (section and file) that the reader sets first;
-// every write names its own section and file.
+// Reading profile (INI) files through the wide profile functions. Reads use one current
+// target (section and file) that the reader sets first. Files are written whole, through
+// ProfileRewrite, never key by key: a run ended between two keys would leave a mix.
 #pragma once
 
 #include "core/profile.h"
@@ -23,14 +23,6 @@ std::string ReadValue(std::string_view key, std::string_view defaultValue);
 // returns how many; 0 with no target set. Every key of the section is read, however
 // long the list of names.
 std::int16_t ReadSection(ProfileSection& table);
-
-// Writes one value; false when the file could not be written. A file that does not
-// exist yet is created as UTF-16LE with a byte-order mark, so that any character survives.
-bool WriteValue(std::string_view section, std::string_view file, std::string_view key, std::string_view value);
-
-// Applies a list of writes to one file, in order. Stops at the first write that fails
-// and returns false; the writes before it stay.
-bool WriteAll(std::string_view file, const ProfileWrites& writes);
 
 // Reads a whole section of a file (sets the current target).
 ProfileSection ReadWholeSection(std::string_view section, std::string_view file);

@@ -78,6 +78,19 @@ bool WriteSection(const std::wstring& file, const ProfileWrites& writes, std::si
     return true;
 }
 
+std::optional<std::uintmax_t>& FreeSpaceForTests() {
+    static std::optional<std::uintmax_t> bytes;
+    return bytes;
+}
+
+bool BeyondFreeSpace(const std::wstring& file) {
+    const std::optional<std::uintmax_t>& free = FreeSpaceForTests();
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (!free || !::GetFileAttributesExW(file.c_str(), GetFileExInfoStandard, &data))
+        return false;
+    return ((std::uintmax_t{data.nFileSizeHigh} << 32) | data.nFileSizeLow) > *free;
+}
+
 // False, with the error in GetLastError, at the first write that fails.
 bool WriteAll(const std::wstring& file, const ProfileWrites& writes) {
     for (std::size_t first = 0; first < writes.size();) {
@@ -86,6 +99,10 @@ bool WriteAll(const std::wstring& file, const ProfileWrites& writes) {
             ++end;
         if (!WriteSection(file, writes, first, end))
             return false;
+        if (BeyondFreeSpace(file)) {
+            ::SetLastError(ERROR_DISK_FULL);
+            return false;
+        }
         first = end;
     }
     return true;
@@ -99,40 +116,29 @@ bool FlushToDisk(const std::wstring& file) {
     return handle && ::FlushFileBuffers(handle.get());
 }
 
-bool FileExists(const std::wstring& file) {
+bool ReadOnly(const std::wstring& file) {
     const DWORD attributes = ::GetFileAttributesW(file.c_str());
-    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0;
 }
 
-constexpr DWORD kMoveFlags = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-
-// ReplaceFileW keeps the original's attributes and security; a file that does not
-// exist yet is simply moved into place.
+// One rename puts the new file in the original's place: at every moment the name holds
+// the old file or the new one. ReplaceFileW does not promise that, and under Wine a kill
+// inside it was seen to leave no file at all. The original's attributes (hidden, say) go
+// along; its security is the folder's, as for any file made there.
 Result PutInPlace(const std::wstring& temp, const std::wstring& target, std::string_view file) {
-    if (!FileExists(target)) {
-        if (::MoveFileExW(temp.c_str(), target.c_str(), kMoveFlags))
-            return {true, true, {}};
-        return Failed("Could not move the new text into", file, ::GetLastError());
-    }
-    if (::ReplaceFileW(target.c_str(), temp.c_str(), nullptr,
-                       REPLACEFILE_IGNORE_MERGE_ERRORS | REPLACEFILE_IGNORE_ACL_ERRORS, nullptr, nullptr))
-        return {true, true, {}};
-    const DWORD error = ::GetLastError();
-    // With this error and no backup file, the original is already gone and the new
-    // file still has its temporary name: moving it is the way to finish.
-    if (error == ERROR_UNABLE_TO_MOVE_REPLACEMENT) {
-        if (::MoveFileExW(temp.c_str(), target.c_str(), kMoveFlags))
-            return {true, true, {}};
-        Result lost = Failed("Could not replace", file, ::GetLastError());
-        lost.originalKept = false;
-        lost.problem += "\nThe new text is in ";
-        lost.problem += Win::Narrow(temp);
-        return lost;
-    }
-    return Failed("Could not replace", file, error);
+    const DWORD attributes = ::GetFileAttributesW(target.c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES)
+        ::SetFileAttributesW(temp.c_str(), attributes);
+    if (::MoveFileExW(temp.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+        return {true, {}};
+    return Failed("Could not replace", file, ::GetLastError());
 }
 
 } // namespace
+
+void SetFreeSpaceForTests(std::optional<std::uintmax_t> bytes) {
+    FreeSpaceForTests() = bytes;
+}
 
 std::string TemporaryFileFor(std::string_view file) {
     std::string temp(file);
@@ -144,6 +150,16 @@ Result Rewrite(std::string_view file, const ProfileWrites& writes) {
     const std::string tempName = TemporaryFileFor(file);
     const std::wstring temp = Win::Widen(tempName);
     const std::wstring target = Win::Widen(file);
+
+    // Replacing would be refused too, but only after the whole temporary file is written,
+    // and as "access denied": said here, before anything is written, the user learns why.
+    if (ReadOnly(target)) {
+        Result result;
+        result.problem = "Could not replace ";
+        result.problem += file;
+        result.problem += ": the file is read-only";
+        return result;
+    }
 
     // A temporary file left by an earlier run that stopped half-way is of no use.
     if (!::DeleteFileW(temp.c_str())) {
@@ -160,7 +176,7 @@ Result Rewrite(std::string_view file, const ProfileWrites& writes) {
     Result result = WriteAll(temp, writes) && FlushToDisk(temp)
                         ? PutInPlace(temp, target, file)
                         : Failed("Could not write the temporary file", tempName, ::GetLastError());
-    if (!result.saved && result.originalKept)
+    if (!result.saved)
         ::DeleteFileW(temp.c_str());
     return result;
 }

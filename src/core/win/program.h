@@ -4,6 +4,7 @@
 
 #include "core/exit_rules.h"
 #include "core/program_values.h"
+#include "core/save_notices.h"
 #include "core/settings.h"
 #include "desktop/command_table.h"
 #include "menus/menu_records.h"
@@ -46,4 +47,6 @@ struct Program {
     bool RebuildBusy = false;
     // The internal commands as the menu editor and the hotspots page offer them.
     std::vector<CommandTable::CommandRow> commandTable;
+    // The kinds of file whose failed save the user was told of in this run.
+    SaveNotices::Told saveNotices;
 };

@@ -29,8 +29,8 @@ void Load(std::string_view file, bool themeOnly, SettingsRec& settings) {
     LoadSettings(IniHandler::ReadWholeSection(kSettingsSection, file), themeOnly, settings);
 }
 
-bool Save(std::string_view file, bool themeOnly, const SettingsRec& settings) {
-    return IniHandler::WriteAll(file, SaveSettings(settings, themeOnly));
+ProfileRewrite::Result Save(std::string_view file, bool themeOnly, const SettingsRec& settings) {
+    return SaveAtomically(file, SaveSettings(settings, themeOnly));
 }
 
 ProfileRewrite::Result SaveAtomically(std::string_view file, const ProfileWrites& writes) {

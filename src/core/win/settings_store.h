@@ -15,13 +15,14 @@ namespace SettingsStore {
 void Load(std::string_view file, bool themeOnly, SettingsRec& settings);
 
 // Writes the keys in catalogue order; with themeOnly, the look keys alone. Keys the
-// file holds besides them stay. A new file is UTF-16 with a byte-order mark. False when
-// the file could not be written.
-bool Save(std::string_view file, bool themeOnly, const SettingsRec& settings);
+// file holds besides them stay. A new file is UTF-16 with a byte-order mark. Saved as
+// SaveAtomically saves.
+ProfileRewrite::Result Save(std::string_view file, bool themeOnly, const SettingsRec& settings);
 
 // Writes the given keys into the file in one step: the file is rewritten whole through a
 // temporary file, with every other key and section it holds kept, so that it is never
-// seen half-written. On failure the file stays as it was and the result says why.
+// seen half-written. The file then reads as writing the keys one by one into it would
+// have left it. On failure the file stays as it was and the result says why.
 ProfileRewrite::Result SaveAtomically(std::string_view file, const ProfileWrites& writes);
 
 // The "Programs", "Common Programs" and "Desktop" values of Explorer's Shell Folders,

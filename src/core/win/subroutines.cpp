@@ -79,6 +79,11 @@ bool SingleInstance(Form1& form1) {
     return true;
 }
 
+void PutBackDesktop(Form1& form1) {
+    for (ExitRules::ExitStep step : ExitRules::PutBackSteps(form1.program().desktopChanges))
+        RunExitStep(form1, step);
+}
+
 void ExitProgram(Form1& form1, bool quiet) {
     ProgramValues& values = form1.program().values;
     // One question at a time: a second exit while the box is up would take the

@@ -17,6 +17,10 @@ bool SingleInstance(Form1& form1);
 // which ends the message loop and the process. A No leaves everything running.
 void ExitProgram(Form1& form1, bool quiet);
 
+// Undoes what the program did to the desktop, as the exit does, and nothing else: for a
+// run that ends without its exit.
+void PutBackDesktop(Form1& form1);
+
 // Builds the table of internal commands anew; an eject row names a CD-ROM drive as one.
 void BuildInternalCommandTable(Program& program);
 

@@ -3,7 +3,7 @@
 #include "core/hotspot_keys.h"
 #include "core/program_values.h"
 #include "core/win/form1.h"
-#include "core/win/ini_handler.h"
+#include "core/win/settings_store.h"
 #include "menus/win/launcher.h"
 #include "win/text_convert.h"
 
@@ -41,6 +41,9 @@ void MenuLauncher::StoreHotspotPlace(int hotspot, int left, int top) {
     HotspotRec& record = program.settings.HotSpots[static_cast<std::size_t>(hotspot)];
     record.Menuleft = static_cast<std::int16_t>(left);
     record.Menutop = static_cast<std::int16_t>(top);
-    IniHandler::WriteAll(SettingsFile(program.values),
-                         HotSpotPlaceWrites(static_cast<std::size_t>(hotspot), record.Menuleft, record.Menutop));
+    const ProfileRewrite::Result saved = SettingsStore::SaveAtomically(
+        SettingsFile(program.values),
+        HotSpotPlaceWrites(static_cast<std::size_t>(hotspot), record.Menuleft, record.Menutop));
+    if (!saved.saved)
+        program.saveNotices.Tell(SaveNotices::Kind::SettingsFile, saved.problem);
 }

@@ -3,8 +3,8 @@
 #include "core/message_box.h"
 #include "core/paths.h"
 #include "core/win/ini_handler.h"
-#include "menus/menu_file.h"
 #include "core/win/profile_rewrite.h"
+#include "menus/menu_file.h"
 
 namespace MenuStore {
 
@@ -28,16 +28,12 @@ bool LoadMenuFile(MenuTable& table, std::string_view path) {
     return false;
 }
 
-bool SaveMenuFile(const MenuTable& table, std::string_view programFolder) {
-    const std::string file = MenuFilePath(programFolder);
-    const ProfileRewrite::Result result = ProfileRewrite::Rewrite(file, DataManager::SaveMenuFile(table));
-    if (result.saved)
-        return true;
-    std::string text = "The menus could not be saved.\n";
-    text += result.problem;
-    text += result.originalKept ? "\nThe menu file was left as it was." : "\nThe menu file is missing.";
-    MessageBoxes::MsgBox(text, kWarningTitle, MessageBoxes::kExclamation);
-    return false;
+bool SaveMenuFile(const MenuTable& table, std::string_view programFolder, SaveNotices::Told& told) {
+    const ProfileRewrite::Result result =
+        ProfileRewrite::Rewrite(MenuFilePath(programFolder), DataManager::SaveMenuFile(table));
+    if (!result.saved)
+        told.Tell(SaveNotices::Kind::MenuFile, result.problem);
+    return result.saved;
 }
 
 } // namespace MenuStore

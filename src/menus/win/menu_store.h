@@ -2,6 +2,7 @@
 // Both tell the user, in a "Tarvex Warning" box, when they could not do their job.
 #pragma once
 
+#include "core/save_notices.h"
 #include "menus/menu_records.h"
 
 #include <string>
@@ -22,7 +23,7 @@ bool LoadMenuFile(MenuTable& table, std::string_view path);
 
 // Writes the table to TvMenus.ini in the program folder, replacing the whole file at
 // once: keys of menus and items that no longer exist disappear, and a failure leaves
-// the old file as it was (and says so). True when saved.
-bool SaveMenuFile(const MenuTable& table, std::string_view programFolder);
+// the old file as it was (and says so, the first time in the run). True when saved.
+bool SaveMenuFile(const MenuTable& table, std::string_view programFolder, SaveNotices::Told& told);
 
 } // namespace MenuStore

@@ -97,7 +97,7 @@ bool MenuEditorPage::Apply() {
     // Open menus list the old menus by number: they close before the numbers change.
     program_.openMenus.CloseAll();
     program_.menus = working_;
-    return MenuStore::SaveMenuFile(program_.menus, program_.values.ProgramFolder);
+    return MenuStore::SaveMenuFile(program_.menus, program_.values.ProgramFolder, program_.saveNotices);
 }
 
 Place MenuEditorPage::PlaceOf(HTREEITEM item) const {

@@ -272,8 +272,7 @@ bool PreferencesWindow::cmdApply_Click() {
     host_.SettingsApplied(before);
     ::EnableWindow(rightButtons_.back(), FALSE);
     if (!saved.saved)
-        MessageBoxes::MsgBox("The settings are in use, but they could not be saved.\n\n" + saved.problem,
-                             "Tarvex Preferences", MessageBoxes::kExclamation);
+        program_.saveNotices.Tell(SaveNotices::Kind::SettingsFile, saved.problem);
     return saved.saved;
 }
 

@@ -93,7 +93,7 @@ Outcome SaveTheme(const ProgramValues& values, SettingsRec& settings, const Save
     settings.SysTileWallpaper = DesktopWallpaper::CurrentTile();
     settings.GenThemeName = request.name;
     settings.GenThemeAuthor = request.author;
-    if (!SettingsStore::Save(file, true, settings)) {
+    if (!SettingsStore::Save(file, true, settings).saved) {
         Show(ThemeFiles::NotWritten(request.name, file));
         return Outcome::Failed;
     }

@@ -26,6 +26,13 @@ bool Tarvex::Kill() {
     return process_ && ::TerminateProcess(process_.get(), 1) && WaitForExit(10s);
 }
 
+bool Tarvex::Crash() {
+    // The first page of memory is never mapped.
+    const auto nowhere = reinterpret_cast<LPTHREAD_START_ROUTINE>(std::uintptr_t{0x10});
+    Win::UniqueKernelHandle thread(::CreateRemoteThread(process_.get(), nullptr, 0, nowhere, nullptr, 0, nullptr));
+    return static_cast<bool>(thread);
+}
+
 bool Tarvex::Start(const ProgramFolder& folder, const std::string& arguments, const std::string& currentDirectory) {
     std::wstring exe = Win::Widen(folder.ExePath());
     std::wstring commandLine = L"\"" + exe + L"\"";

@@ -59,8 +59,13 @@ public:
     // Exit from the tray menu, and Yes to the question. True when the process ended.
     bool ExitThroughTray();
 
-    // Ends the process at once, as a crash would: no exit of its own runs.
+    // Ends the process at once, as a kill from outside does: no code of its own runs.
     bool Kill();
+
+    // Makes the process crash: a new thread in it starts at an address that holds no code,
+    // so an access violation goes unhandled there, with the program's own code around.
+    // True when the thread was made.
+    bool Crash();
 
 private:
     Win::UniqueKernelHandle process_;

@@ -151,6 +151,41 @@ TEST_F(Choosing, ATaskbarTheProgramHidIsShownAgainWhenItExits) {
     EXPECT_TRUE(taskbar.visible()) << "the program put back the taskbar it hid";
 }
 
+// A kill leaves the program no moment to put anything back: the next start does, from
+// the desktop changes file.
+TEST_F(Choosing, ATaskbarThatAKilledRunHidIsShownAgainByTheNextStart) {
+    StandInWindow taskbar(L"Shell_TrayWnd", L"");
+    ASSERT_NO_FATAL_FAILURE(Open({Item("Hide Taskbar", 1, "*31")}));
+    ClickItem(1);
+    ASSERT_TRUE(WaitUntil([&] { return !taskbar.visible(); }, 10s));
+    ASSERT_TRUE(WaitUntil([&] { return folder.Exists("DesktopChanges.ini"); }, 10s));
+    ASSERT_TRUE(tarvex.Kill());
+    EXPECT_FALSE(taskbar.visible()) << "nothing put it back at the kill";
+
+    Tarvex again;
+    ASSERT_TRUE(again.Start(folder));
+    EXPECT_TRUE(WaitUntil([&] { return taskbar.visible(); }, 30s)) << "the next start shows it";
+    ASSERT_TRUE(again.WaitUntilReady());
+    EXPECT_FALSE(folder.Exists("DesktopChanges.ini"));
+    EXPECT_TRUE(again.ExitThroughTray());
+}
+
+// A crash runs the program's own handler on the way down: the taskbar shows again by the
+// time the process is gone, before any new start.
+TEST_F(Choosing, ATaskbarThatARunHidIsShownAgainWhenItCrashes) {
+    StandInWindow taskbar(L"Shell_TrayWnd", L"");
+    ASSERT_NO_FATAL_FAILURE(Open({Item("Hide Taskbar", 1, "*31")}));
+    ClickItem(1);
+    ASSERT_TRUE(WaitUntil([&] { return !taskbar.visible(); }, 10s));
+    ASSERT_TRUE(WaitUntil([&] { return folder.Exists("DesktopChanges.ini"); }, 10s));
+
+    ASSERT_TRUE(tarvex.Crash());
+    ASSERT_TRUE(tarvex.WaitForExit(20s));
+    EXPECT_EQ(tarvex.ExitCode(), std::optional<DWORD>(EXCEPTION_ACCESS_VIOLATION)) << "it died of the crash";
+    EXPECT_TRUE(taskbar.visible()) << "and put the taskbar back as it went";
+    EXPECT_FALSE(folder.Exists("DesktopChanges.ini")) << "leaving the next start nothing to put back";
+}
+
 TEST_F(Choosing, ExitTarvexAsksAndYesEndsTheProgram) {
     ASSERT_NO_FATAL_FAILURE(Open({Item("Exit Tarvex", 1, "*9")}));
     ClickItem(1);

@@ -446,3 +446,68 @@ TEST_F(ThemesPage, AThemeExportedAndImportedAgainIsTheSameFileForFile) {
     EXPECT_EQ(::SendMessageW(themes->hwnd, LB_GETCOUNT, 0, 0), 1);
     EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
 }
+
+// Both files made read-only: every Apply fails and leaves them byte for byte, and the user
+// hears of each kind of file once, with what, why and the old file kept. A page turned
+// after an Apply shows that the Apply is over and brought no box: a box would hold the
+// window still.
+TEST_F(Preferences, ReadOnlyFilesStayAsTheyWereAndEachKindOfFailedSaveIsToldOnce) {
+    const std::string settingsBefore = folder.ReadBytes("Helmora.ini");
+    const std::string menusBefore = folder.ReadBytes("TvMenus.ini");
+    for (const char* name : {"Helmora.ini", "TvMenus.ini"})
+        ASSERT_TRUE(::SetFileAttributesW(Win::Widen(folder.File(name)).c_str(), FILE_ATTRIBUTE_READONLY));
+    HWND window = Open();
+    ASSERT_TRUE(window);
+    const auto press = [&](std::string_view button) {
+        std::optional<WindowInfo> found = VisibleControl(window, "Button", button);
+        return found && ClickWindow(found->hwnd);
+    };
+    const auto deleteFirstItem = [&] {
+        if (!ShowPreferencePage(window, "Menu Editor"))
+            return false;
+        std::optional<WindowInfo> tree = VisibleControl(window, "SysTreeView32", "");
+        if (!tree || !Click(tree->rect.left + 20, tree->rect.bottom - 20))
+            return false;
+        PressKey(VK_HOME);
+        PressKey(VK_DOWN); // Main, then its first item
+        return press("&Delete");
+    };
+    const auto toggleFlatTitle = [&] {
+        return ShowPreferencePage(window, "Titlebar") && press(LabelOf("TitleFlat"));
+    };
+    const auto toldOnce = [&](const std::string& what, const std::string& file) {
+        std::optional<WindowInfo> box = WaitForMessageBox(tarvex.processId());
+        if (!box)
+            return ::testing::AssertionFailure() << "no box for the " << what;
+        const std::string text = DialogText(box->hwnd);
+        for (const std::string& part : {"The " + what + " could not be saved.", folder.File(file),
+                                        std::string("the file is read-only"), std::string("left as it was")})
+            if (text.find(part) == std::string::npos)
+                return ::testing::AssertionFailure() << "\"" << part << "\" missing from: " << text;
+        if (box->title != "Tarvex Warning" || !PressButton(box->hwnd, "OK"))
+            return ::testing::AssertionFailure() << "not a warning box, or it did not close";
+        return ::testing::AssertionSuccess();
+    };
+    const auto toldNothing = [&](std::string_view nextPage) {
+        return ShowPreferencePage(window, nextPage) && TopLevelWindows(kDialogClass, tarvex.processId()).empty();
+    };
+
+    ASSERT_TRUE(deleteFirstItem());
+    ASSERT_TRUE(press("&Apply"));
+    EXPECT_TRUE(toldOnce("menus", "TvMenus.ini"));
+    ASSERT_TRUE(deleteFirstItem());
+    ASSERT_TRUE(press("&Apply"));
+    EXPECT_TRUE(toldNothing("Global")) << "a second failed menu save is not told";
+
+    ASSERT_TRUE(toggleFlatTitle());
+    ASSERT_TRUE(press("&Apply"));
+    EXPECT_TRUE(toldOnce("settings", "Helmora.ini"));
+    ASSERT_TRUE(toggleFlatTitle());
+    ASSERT_TRUE(press("&Apply"));
+    EXPECT_TRUE(toldNothing("Global")) << "a second failed settings save is not told";
+
+    EXPECT_EQ(folder.ReadBytes("Helmora.ini"), settingsBefore);
+    EXPECT_EQ(folder.ReadBytes("TvMenus.ini"), menusBefore);
+    EXPECT_FALSE(folder.Exists("Helmora.ini.tmp") || folder.Exists("TvMenus.ini.tmp"));
+    EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
+}

@@ -1,5 +1,6 @@
 #include "core/win/ini_handler.h"
 #include "support/answered_message_boxes.h"
+#include "support/key_by_key.h"
 #include "support/temp_folder.h"
 #include "win/text_convert.h"
 
@@ -71,8 +72,7 @@ TEST(IniHandler, ACreatedFileIsUtf16AndKeepsNonLatinText) {
     TempFolder dir;
     std::string file = dir.File("Helmora.ini");
     const std::string text = "Меню ☃ 日本語 ü";
-    IniHandler::WriteValue("TARVEX", file, "GenThemeName", text);
-    IniHandler::WriteValue("TARVEX", file, "TitleFont", "Arial");
+    TestSupport::WriteKeyByKey(file, {{"TARVEX", "GenThemeName", text}, {"TARVEX", "TitleFont", "Arial"}});
 
     EXPECT_EQ(TestSupport::ReadBytes(file).substr(0, 2), kUtf16Bom);
     IniHandler::SetTarget("TARVEX", file);
@@ -84,7 +84,7 @@ TEST(IniHandler, AnExistingAnsiFileIsReadAndWrittenAsItIs) {
     TempFolder dir;
     std::string file = dir.File("old.ini");
     TestSupport::WriteBytes(file, "[TARVEX]\r\nTitleFont=Tahoma\r\n");
-    IniHandler::WriteValue("TARVEX", file, "TitleFontSize", "10");
+    TestSupport::WriteKeyByKey(file, {{"TARVEX", "TitleFontSize", "10"}});
     std::string bytes = TestSupport::ReadBytes(file);
     EXPECT_NE(bytes.substr(0, 2), kUtf16Bom);
     EXPECT_NE(bytes.find("TitleFontSize=10"), std::string::npos);

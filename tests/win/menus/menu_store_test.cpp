@@ -6,6 +6,7 @@
 #include "menus/menu_file.h"
 #include "menus/win/menu_store.h"
 #include "core/win/profile_rewrite.h"
+#include "support/key_by_key.h"
 #include "support/temp_folder.h"
 #include "win/handles.h"
 #include "win/text_convert.h"
@@ -48,6 +49,9 @@ const std::string kHandEditedFile = "[MENUS]\r\n"
                                     "[MENU-9]\r\n"
                                     "LABEL-0=Ghost\r\n";
 
+// A run in which no save has failed yet.
+SaveNotices::Told told;
+
 const MenuItemRec& ItemAt(const MenuTable& table, std::int32_t menu, std::int32_t position) {
     return table.pool[static_cast<std::size_t>(DataManager::FindItem(table, menu, position))];
 }
@@ -84,7 +88,7 @@ TEST(MenuFile, AHandEditedFileRoundTripsThroughTheProfileFunctions) {
     table.pool[static_cast<std::size_t>(DataManager::FindItem(table, 0, 0))].LABEL = label;
     table.pool[static_cast<std::size_t>(DataManager::FindItem(table, 2, 0))].PATH = path;
 
-    ASSERT_TRUE(MenuStore::SaveMenuFile(table, dir.path()));
+    ASSERT_TRUE(MenuStore::SaveMenuFile(table, dir.path(), told));
     EXPECT_FALSE(FileExists(ProfileRewrite::TemporaryFileFor(file)));
     EXPECT_EQ(ReadBytes(file).substr(0, 2), MenuTests::kUtf16Bom);
 
@@ -109,10 +113,10 @@ TEST(MenuFile, SavingGivesTheBytesThatDeletingAndWritingKeyByKeyGives) {
     item.STARTPATH = "\"quoted\"";
     item.HOTKEY = ";semicolon";
 
-    ASSERT_TRUE(MenuStore::SaveMenuFile(table, dir.path()));
+    ASSERT_TRUE(MenuStore::SaveMenuFile(table, dir.path(), told));
 
     const std::string reference = dir.File("reference.ini");
-    IniHandler::WriteAll(reference, DataManager::SaveMenuFile(table));
+    TestSupport::WriteKeyByKey(reference, DataManager::SaveMenuFile(table));
     EXPECT_EQ(ReadBytes(file), ReadBytes(reference));
     EXPECT_TRUE(IniHandler::ReadWholeSection("MENU-9", file).empty()) << "sections the table does not have are gone";
 }
@@ -124,7 +128,7 @@ TEST(MenuFile, TheFirstSaveCreatesTheFileInAFolderWithoutOne) {
     table.pool[static_cast<std::size_t>(DataManager::AppendItem(table, number - 1))].LABEL = "First";
     AnsweredBoxes boxes(MessageBoxes::kOk);
 
-    ASSERT_TRUE(MenuStore::SaveMenuFile(table, dir.path() + "\\"));
+    ASSERT_TRUE(MenuStore::SaveMenuFile(table, dir.path() + "\\", told));
     const std::string file = dir.File("TvMenus.ini");
     EXPECT_EQ(ReadBytes(file).substr(0, 2), MenuTests::kUtf16Bom);
     EXPECT_EQ(ItemAt(LoadedTable(file), 0, 0).LABEL, "First");
@@ -138,13 +142,14 @@ TEST(MenuFile, AFailedSaveKeepsTheOldFileAndSaysSo) {
     MenuTable table = LoadedTable(file);
     DataManager::DeleteItem(table, 0, 0);
     AnsweredBoxes boxes(MessageBoxes::kOk);
+    SaveNotices::Told thisRun;
 
     {
         // Another program holds the file open and shares it with no one.
         Win::UniqueFileHandle locked(::CreateFileW(Win::Widen(file).c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING,
                                                    FILE_ATTRIBUTE_NORMAL, nullptr));
         ASSERT_TRUE(locked);
-        EXPECT_FALSE(MenuStore::SaveMenuFile(table, dir.path()));
+        EXPECT_FALSE(MenuStore::SaveMenuFile(table, dir.path(), thisRun));
     }
     EXPECT_EQ(ReadBytes(file), kHandEditedFile);
     EXPECT_FALSE(FileExists(ProfileRewrite::TemporaryFileFor(file)));
@@ -154,17 +159,21 @@ TEST(MenuFile, AFailedSaveKeepsTheOldFileAndSaysSo) {
     EXPECT_NE(boxes.requests[0].text.find(file), std::string::npos) << boxes.requests[0].text;
     EXPECT_NE(boxes.requests[0].text.find("left as it was"), std::string::npos) << boxes.requests[0].text;
 
-    // The name of the temporary file is taken by a folder: nothing can be written.
+    // The name of the temporary file is taken by a folder: nothing can be written, and
+    // only a run that has not told of a failed menu save yet says so.
     const std::string temp = ProfileRewrite::TemporaryFileFor(file);
     ASSERT_TRUE(::CreateDirectoryW(Win::Widen(temp).c_str(), nullptr));
-    EXPECT_FALSE(MenuStore::SaveMenuFile(table, dir.path()));
+    EXPECT_FALSE(MenuStore::SaveMenuFile(table, dir.path(), thisRun));
+    EXPECT_EQ(boxes.requests.size(), 1u) << "told once a run";
+    SaveNotices::Told nextRun;
+    EXPECT_FALSE(MenuStore::SaveMenuFile(table, dir.path(), nextRun));
     EXPECT_EQ(ReadBytes(file), kHandEditedFile);
     ASSERT_EQ(boxes.requests.size(), 2u);
     EXPECT_NE(boxes.requests[1].text.find(temp), std::string::npos) << boxes.requests[1].text;
 
     // Once the obstacles are gone the same table saves.
     ASSERT_TRUE(::RemoveDirectoryW(Win::Widen(temp).c_str()));
-    EXPECT_TRUE(MenuStore::SaveMenuFile(table, dir.path()));
+    EXPECT_TRUE(MenuStore::SaveMenuFile(table, dir.path(), thisRun));
     EXPECT_EQ(ItemAt(LoadedTable(file), 0, 0).LABEL, "");
     EXPECT_EQ(ItemAt(LoadedTable(file), 0, 1).LABEL, "Calculator");
 }
