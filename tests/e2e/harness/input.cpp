@@ -46,7 +46,7 @@ bool SweepMouseTo(int x, int y) {
     return WaitUntil([&] { return CursorAt(x, y); }, 1s);
 }
 
-bool Click(int x, int y, Button button) {
+bool Click(int x, int y, Button button, Duration hold) {
     if (!MoveMouse(x, y))
         return false;
     struct Flags {
@@ -57,7 +57,7 @@ bool Click(int x, int y, Button button) {
                   : button == Button::Middle ? Flags{MOUSEEVENTF_MIDDLEDOWN, MOUSEEVENTF_MIDDLEUP}
                                              : Flags{MOUSEEVENTF_LEFTDOWN, MOUSEEVENTF_LEFTUP};
     SendMouse(x, y, flags.down);
-    Settle(50ms);
+    Settle(hold);
     SendMouse(x, y, flags.up);
     return true;
 }

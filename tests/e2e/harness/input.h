@@ -17,7 +17,9 @@ bool MoveMouse(int x, int y);
 // One move, waiting only until the cursor is there: for sweeps of many moves, where
 // MoveMouse's check that the cursor stays would take most of the time.
 bool SweepMouseTo(int x, int y);
-bool Click(int x, int y, Button button = Button::Left);
+// The button is held for `hold`: the program's hotspots sample the buttons on a timer,
+// whose messages wait while the machine is busy.
+bool Click(int x, int y, Button button = Button::Left, Duration hold = 50ms);
 // A click whose button events carry the point themselves: while a popup menu of the
 // program tracks the mouse, Wine keeps the cursor where it is against moves from
 // another process, but the menu still sees where the click is.

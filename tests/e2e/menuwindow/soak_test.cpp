@@ -59,8 +59,17 @@ protected:
     }
 
     // A right click on the desktop: it opens the hotspot's menu, or closes every menu.
+    // The hotspot samples the button on a timer whose messages wait while the machine is
+    // busy; a click it missed in thousands is tried once more, and counted.
     bool ClickDesktop(std::size_t menusAfter) {
-        return tarvex.WaitUntilIdle() && Click(kDesktopX, kDesktopY, Button::Right) && ShownCount(menusAfter);
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            if (!tarvex.WaitUntilIdle() || !Click(kDesktopX, kDesktopY, Button::Right, 100ms))
+                return false;
+            if (WaitUntil([&] { return Shown().size() == menusAfter; }, attempt == 0 ? 3s : 10s))
+                return true;
+            ++missedClicks;
+        }
+        return false;
     }
 
     static bool ClickFirstItem(const WindowInfo& menu) {
@@ -97,6 +106,7 @@ protected:
         EXPECT_LE(after.privateMegabytes, before.privateMegabytes + 4);
     }
 
+    int missedClicks = 0;
     TempFolder files;
     ProgramFolder folder;
     Tarvex tarvex;
@@ -117,6 +127,7 @@ TEST_F(Soak, ACascadeOpenedAndClosedAgainAndAgainHoldsNoMore) {
     ASSERT_TRUE(tarvex.WaitUntilIdle());
     const ProcessUsage after = Usage();
     Report("cascade", cycles, before, after);
+    std::printf("desktop clicks tried again: %d\n", missedClicks);
     ExpectFlat(before, after);
 }
 
