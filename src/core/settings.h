@@ -229,6 +229,9 @@ struct SettingsRec {
     std::int16_t SystrayHideDelay = 5;
     bool SystrayAlwaysOnTop = false;
     bool TaskbarAlwaysOnTop = false;
+    // Letters typed within kTypeAheadMilliseconds of each other extend a menu's search;
+    // off, every letter searches alone.
+    bool MenuTypeAhead = true;
     std::int16_t BrowserIconType = 0;
 
     // SoundFx0..SoundFx6: the sound of each menu event; empty plays nothing.

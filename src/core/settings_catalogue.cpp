@@ -306,6 +306,7 @@ constexpr std::array kCatalogue = {
             Number(TasklistSystray, "Systray", "Collapse dela&y (seconds):", 0, 32)),
     SETTING(SystrayAlwaysOnTop, Boolean, kGeneral, Check(TasklistSystray, "Systray", "Al&ways on top")),
     SETTING(TaskbarAlwaysOnTop, Boolean, kGeneral, Check(TasklistSystray, "Task list", "Always o&n top")),
+    SETTING(MenuTypeAhead, Boolean, kGeneral, Check(Menu, "Keyboard", "&Join letters typed quickly into one search")),
     SettingDef{"NoOfUserTasks", SettingType::Int32, kGeneral, &SettingsRec::UserTasks, kNoControl},
     SETTING(BrowserIconType, Int16, kGeneral, kNoControl),
     SettingDef{"NoOfHotSpots", SettingType::Int16, kGeneral, &SettingsRec::HotSpots, kNoControl},

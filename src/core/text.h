@@ -21,6 +21,13 @@ std::size_t Utf16Length(std::string_view utf8);
 // The first character of a UTF-8 text; 0 for an empty text, U+FFFD for a broken sequence.
 char32_t FirstCodePoint(std::string_view utf8);
 
+// The bytes the first character of a UTF-8 text takes, as FirstCodePoint reads it: 1 for
+// a broken sequence, 0 for an empty text.
+std::size_t FirstCodePointLength(std::string_view utf8);
+
+// A character as UTF-8.
+std::string Utf8(char32_t c);
+
 // The upper-case form of a letter of the Latin-1, Greek and Cyrillic alphabets (the
 // scripts whose cases differ by a fixed offset); any other character as it is.
 char32_t FoldCase(char32_t c);

@@ -73,6 +73,39 @@ int SearchByLetter(const DisplayList& list, int selected, char32_t character) {
     return 0;
 }
 
+namespace {
+
+// The label begins with the typed text, each character folded as the letter search folds.
+bool StartsWithFolded(std::string_view label, std::string_view typed) {
+    while (!typed.empty()) {
+        if (label.empty() || Text::FoldCase(Text::FirstCodePoint(label)) != Text::FoldCase(Text::FirstCodePoint(typed)))
+            return false;
+        label.remove_prefix(Text::FirstCodePointLength(label));
+        typed.remove_prefix(Text::FirstCodePointLength(typed));
+    }
+    return true;
+}
+
+// The text is the letter again and again.
+bool Repeats(std::string_view text, std::string_view letter) {
+    for (; !text.empty(); text.remove_prefix(letter.size()))
+        if (!text.starts_with(letter))
+            return false;
+    return true;
+}
+
+} // namespace
+
+int SearchByPrefix(const DisplayList& list, int selected, std::string_view typed) {
+    const int count = list.Count();
+    for (int step = 0; step < count; ++step) {
+        const int item = (std::max(selected, 1) - 1 + step) % count + 1;
+        if (StartsWithFolded(list.Item(item).LABEL, typed))
+            return item;
+    }
+    return 0;
+}
+
 int ItemByHotkey(const DisplayList& list, char32_t character) {
     char32_t wanted = Text::FoldCase(character);
     for (int item = 1; item <= list.Count(); ++item) {
@@ -355,9 +388,12 @@ Effects MenuInteraction::MakeButtonVisible(const MenuScene& scene, int item) {
     return effects;
 }
 
-Effects MenuInteraction::KeyDown(const MenuScene& scene, Key key, char32_t character, Modifiers modifiers, int level) {
+Effects MenuInteraction::KeyDown(const MenuScene& scene, Key key, char32_t character, Modifiers modifiers, int level,
+                                 std::uint32_t time) {
     if (modifiers.Any() || !scene.look.SelBar)
         return {};
+    if (key != Key::Other)
+        state_.typed.clear();
     int count = scene.list.Count();
     int selected = state_.selected >= 1 && state_.selected <= count ? state_.selected : 0;
     switch (key) {
@@ -395,6 +431,26 @@ Effects MenuInteraction::KeyDown(const MenuScene& scene, Key key, char32_t chara
     case Key::Other:
         break;
     }
+    // A letter within the delay of the one before extends the search; any other starts
+    // a new one, and a single letter (or the same one again) searches exactly as the
+    // first-letter search does.
+    const bool extends = scene.look.MenuTypeAhead && character != 0 && !state_.typed.empty() &&
+                         time - state_.typedAt <= kTypeAheadMilliseconds;
+    state_.typedAt = time;
+    if (!extends) {
+        state_.typed = character != 0 ? Text::Utf8(character) : std::string();
+        return MakeButtonVisible(scene, SearchByLetter(scene.list, selected, character));
+    }
+    // The same letter again steps on to the next item it starts, as a single letter does.
+    const std::string letter = Text::Utf8(character);
+    const bool sameLetter = Repeats(state_.typed, letter);
+    state_.typed += letter;
+    const int found = sameLetter ? 0 : SearchByPrefix(scene.list, selected, state_.typed);
+    if (found != 0)
+        return MakeButtonVisible(scene, found);
+    // Letters that lead nowhere give way to the last one alone.
+    if (!sameLetter)
+        state_.typed = letter;
     return MakeButtonVisible(scene, SearchByLetter(scene.list, selected, character));
 }
 

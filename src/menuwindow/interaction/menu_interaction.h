@@ -80,6 +80,8 @@ struct InteractionState {
     bool delayElapsed = false;
     bool discardMove = false; // a sub-menu closed by the keyboard: the next move keeps the selection
     int flashCount = 0;
+    std::string typed;           // the letters of a type-ahead search, as typed (UTF-8)
+    std::uint32_t typedAt = 0;   // the message time of the last of them, in milliseconds
 };
 
 class MenuInteraction {
@@ -104,8 +106,10 @@ public:
     Effects ScrollTick(const MenuScene& scene, std::optional<Point> cursor);
 
     // A key pressed in this window; character is what the key types (0 for none), used
-    // by the first-letter search. level is the window's level in the cascade.
-    Effects KeyDown(const MenuScene& scene, Key key, char32_t character, Modifiers modifiers, int level);
+    // by the first-letter search and type-ahead. level is the window's level in the
+    // cascade; time is the key's message time in milliseconds (it wraps).
+    Effects KeyDown(const MenuScene& scene, Key key, char32_t character, Modifiers modifiers, int level,
+                    std::uint32_t time = 0);
     // A key let go: Ctrl with an item's hot key chooses that item.
     Effects KeyUp(const MenuScene& scene, char32_t character, Modifiers modifiers);
 
@@ -142,6 +146,15 @@ int StepDown(int item, int count);
 // first, the first item whose label starts with the character (letters compared
 // without regard to case); 0 when none does.
 int SearchByLetter(const DisplayList& list, int selected, char32_t character);
+
+// Letters typed no further apart than this extend one search, with MenuTypeAhead on.
+inline constexpr std::uint32_t kTypeAheadMilliseconds = 700;
+
+// Type-ahead: from the selected item to the last, then from the first, the first item
+// whose label starts with the typed letters (compared as the first-letter search
+// compares); 0 when none does. The selected item comes first, since the letters before
+// the last one chose it.
+int SearchByPrefix(const DisplayList& list, int selected, std::string_view typed);
 
 // The first item whose hot key is the character, without regard to case; 0 for none.
 int ItemByHotkey(const DisplayList& list, char32_t character);

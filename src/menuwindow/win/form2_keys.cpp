@@ -38,7 +38,8 @@ Modifiers Form2::HeldModifiers(WPARAM mouseKeys) {
 }
 
 void Form2::Form_KeyDown(WPARAM key) {
-    Apply(interaction_.KeyDown(scene_, KeyOf(key), CharacterOf(key), HeldModifiers(), Record().level));
+    Apply(interaction_.KeyDown(scene_, KeyOf(key), CharacterOf(key), HeldModifiers(), Record().level,
+                               static_cast<std::uint32_t>(::GetMessageTime())));
 }
 
 void Form2::Form_KeyUp(WPARAM key) {

@@ -376,3 +376,17 @@ TEST_F(MenuInteraction, AMinuteOfFastClicksAndKeysLeavesNothingBehind) {
     EXPECT_LE(::GetGuiResources(process, GR_GDIOBJECTS), gdiAtStart) << "the menus gave back what they drew with";
     ::CloseHandle(process);
 }
+
+TEST_F(MenuInteraction, TypeAheadJoinsQuickLettersAndOffEachLetterSearchesAlone) {
+    for (const bool typeAhead : {true, false}) {
+        ASSERT_NO_FATAL_FAILURE(Open({{"Programs", NotepadItems({"Calculator", "Cards", "Console", "Notes"})}},
+                                     SelectionBar(typeAhead ? "" : "MenuTypeAhead=False\n")));
+        PressKey('C');
+        PressKey('O');
+        EXPECT_TRUE(BarMovesTo(main, typeAhead ? 3 : 1)) << (typeAhead ? "\"co\" is Console" : "'o' alone finds none");
+        Screenshot(typeAhead ? "type-ahead-on" : "type-ahead-off");
+        PressKey(VK_ESCAPE);
+        ASSERT_TRUE(MenusShown(0));
+        ASSERT_TRUE(tarvex.ExitThroughTray());
+    }
+}

@@ -319,3 +319,40 @@ TEST(MenuFlash, TheBarFlashesForFiveTicksAndEndsAsTheSelectionHasIt) {
                                                ButtonState::Normal, ButtonState::Selected}));
     EXPECT_TRUE(Stops(tick, MenuTimer::FlashSelBar));
 }
+
+TEST(MenuInteractionTypeAhead, QuickLettersExtendTheSearchAndSlowOnesSearchAlone) {
+    MenuLook look = PlainLook();
+    look.SelBar = true;
+    Menu menu({"pCalculator", "pCards", "pConsole", "pcontrol", "pЖурнал", "pЖёлудь"}, look);
+    struct Step {
+        char32_t character;
+        std::uint32_t time;
+        int selected;
+    };
+    const Step steps[] = {
+        {U'c', 1000, 1},  // a single letter: the first-letter search
+        {U'o', 1500, 3},  // "co", 500 ms later: Console, past Calculator and Cards
+        {U'n', 2100, 3},  // "con" stays on Console
+        {U't', 2700, 4},  // "cont": control, in any case
+        {U'x', 3300, 4},  // "contx": none, nor 'x' alone: the selection stays
+        {U'c', 3700, 1},  // "xc" leads nowhere: 'c' alone, from the item after control
+        {U'c', 5000, 2},  // 1.3 s later a new search: Cards
+        {U'c', 5600, 3},  // "cc": the same letter again steps on, as it does alone
+        {U'c', 6000, 4},
+        {U'ж', 7000, 5},  // Cyrillic, folded
+        {U'Ё', 7400, 6},  // "жё"
+    };
+    for (const Step& step : steps) {
+        menu.interaction.KeyDown(menu.scene, Key::Other, step.character, {}, 1, step.time);
+        EXPECT_EQ(menu.Selected(), step.selected) << "at " << step.time << " ms";
+    }
+    menu.interaction.KeyDown(menu.scene, Key::Home, 0, {}, 1, 7500);
+    menu.interaction.KeyDown(menu.scene, Key::Other, U'o', {}, 1, 7600);
+    EXPECT_EQ(menu.Selected(), 1) << "a key that is no letter ends the search: 'o' alone finds nothing";
+
+    look.MenuTypeAhead = false;
+    Menu off({"pCalculator", "pCards", "pConsole"}, look);
+    off.interaction.KeyDown(off.scene, Key::Other, U'c', {}, 1, 1000);
+    off.interaction.KeyDown(off.scene, Key::Other, U'o', {}, 1, 1100);
+    EXPECT_EQ(off.Selected(), 1) << "off, 'o' searches alone and finds nothing";
+}
