@@ -5,16 +5,19 @@ ensure_display() {
     if [ -n "${DISPLAY:-}" ]; then
         return
     fi
-    local n=90
-    while [ -e "/tmp/.X$n-lock" ] || [ -e "/tmp/.X11-unix/X$n" ]; do
-        n=$((n + 1))
-    done
-    Xvfb ":$n" -screen 0 1600x1200x24 -nolisten tcp >/dev/null 2>&1 &
+    # Xvfb picks the free display itself and names it on the descriptor once it listens:
+    # two runs starting together would otherwise both take the first number free.
+    local named
+    named=$(mktemp)
+    Xvfb -displayfd 3 -screen 0 1600x1200x24 -nolisten tcp 3>"$named" >/dev/null 2>&1 &
     TARVEX_XVFB_PID=$!
     trap 'kill "$TARVEX_XVFB_PID" 2>/dev/null || true' EXIT
+    local n=
     for _ in $(seq 100); do
-        [ -e "/tmp/.X11-unix/X$n" ] && break
+        n=$(tr -dc '0-9' <"$named")
+        [ -n "$n" ] && break
         sleep 0.1
     done
+    rm -f "$named"
     export DISPLAY=":$n"
 }

@@ -42,8 +42,12 @@ bool MoveMouse(int x, int y) {
 }
 
 bool SweepMouseTo(int x, int y) {
-    SendMouse(x, y, 0);
-    return WaitUntil([&] { return CursorAt(x, y); }, 1s);
+    for (int attempt = 0; attempt < 20; ++attempt) {
+        SendMouse(x, y, 0);
+        if (WaitUntil([&] { return CursorAt(x, y); }, 250ms))
+            return true;
+    }
+    return false;
 }
 
 bool Click(int x, int y, Button button, Duration hold) {
