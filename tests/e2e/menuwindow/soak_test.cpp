@@ -80,9 +80,15 @@ protected:
     bool OpenCascade() {
         if (!tarvex.WaitUntilIdle())
             return false;
+        // The hotspot samples the keys on a timer whose messages wait while the machine
+        // is busy: a tap it missed (one in thousands here) is tapped again, and counted.
         TapKeys(VK_CONTROL, VK_F5, 60ms);
-        if (!ShownCount(1))
-            return false;
+        if (!WaitUntil([&] { return Shown().size() == 1; }, 3s)) {
+            ++missedTaps;
+            TapKeys(VK_CONTROL, VK_F5, 100ms);
+            if (!ShownCount(1))
+                return false;
+        }
         for (std::size_t level = 2; level <= 3; ++level) {
             if (!MenuHasKeyboard())
                 return false;
@@ -121,6 +127,7 @@ protected:
         EXPECT_LE(after.privateMegabytes, before.privateMegabytes + 4);
     }
 
+    int missedTaps = 0;
     TempFolder files;
     ProgramFolder folder;
     Tarvex tarvex;
@@ -141,6 +148,7 @@ TEST_F(Soak, ACascadeOpenedAndClosedAgainAndAgainHoldsNoMore) {
     ASSERT_TRUE(tarvex.WaitUntilIdle());
     const ProcessUsage after = Usage();
     Report("cascade", cycles, before, after);
+    std::printf("hot key taps tried again: %d\n", missedTaps);
     ExpectFlat(before, after);
 }
 
