@@ -13,6 +13,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -37,6 +38,20 @@ std::string Utf8Of(char32_t c) {
     return {};
 }
 
+// The UTF-16 length of well-formed UTF-8, read character by character; nothing for a
+// text with a broken sequence, whose length Windows would count its own way.
+std::optional<std::size_t> Utf16UnitsOfWellFormed(std::string_view text) {
+    std::size_t units = 0;
+    while (!text.empty()) {
+        const std::string bytes = Utf8Of(Text::FirstCodePoint(text));
+        if (bytes.empty() || !text.starts_with(bytes))
+            return std::nullopt;
+        units += bytes.size() == 4 ? 2 : 1;
+        text.remove_prefix(bytes.size());
+    }
+    return units;
+}
+
 void CheckCase(const std::string& a, const std::string& b) {
     const std::string upper = Text::ToUpper(a);
     const std::string lower = Text::ToLower(a);
@@ -47,7 +62,8 @@ void CheckCase(const std::string& a, const std::string& b) {
     Require(Text::StartsWithIgnoreCase(lower + b, upper), "a text starts with its own start in any case");
     Require(Text::StartsWithIgnoreCase(a, b) == (b.size() <= a.size() && Text::EqualsIgnoreCase(a.substr(0, b.size()), b)),
             "starts with is equal over the prefix");
-    Require(Text::Utf16Length(a) <= a.size(), "never more UTF-16 units than bytes");
+    if (const std::optional<std::size_t> units = Utf16UnitsOfWellFormed(a))
+        Require(Text::Utf16Length(a) == *units, "one UTF-16 unit per character, two past U+FFFF");
 
     const char32_t first = Text::FirstCodePoint(a);
     Require(a.empty() ? first == 0 : first == U'\uFFFD' || (a.starts_with(Utf8Of(first)) && !Utf8Of(first).empty()),
