@@ -68,7 +68,8 @@ void CheckWhole(const FolderListing& whole, const std::vector<Found>& found, con
     std::map<std::string, std::pair<int, std::set<std::string>>> paths; // path: times found, names
     for (const Found& f : found) {
         const bool folder = f.entry.isFolder && request.filter != kFilterControlPanel;
-        auto& [times, names] = paths[folders[std::min(f.folder, folders.size() - 1)] + f.entry.name + (folder ? "\\" : "")];
+        auto& [times, names] =
+            paths[folders[std::min(f.folder, folders.size() - 1)] + f.entry.name + (folder ? "\\" : "")];
         ++times;
         names.insert(f.entry.name);
     }
@@ -86,13 +87,15 @@ void CheckWhole(const FolderListing& whole, const std::vector<Found>& found, con
         Require(place != paths.end() && place->second.first-- > 0, "each entry listed stands for one found");
         Require(std::ranges::any_of(place->second.second,
                                     [&](const std::string& name) {
-                                        return e.LABEL == name || (e.TYPE == kItemFilename && name.starts_with(e.LABEL) &&
-                                                                   name[e.LABEL.size()] == '.');
+                                        return e.LABEL == name ||
+                                               (e.TYPE == kItemFilename && name.starts_with(e.LABEL) &&
+                                                name[e.LABEL.size()] == '.');
                                     }),
                 "the label is the name, or the name less its extension");
         if (i > 0) {
             const DisplayEntry& before = listed[i - 1];
-            Require(std::pair(group(before), Text::ToLower(before.LABEL)) <= std::pair(group(e), Text::ToLower(e.LABEL)),
+            Require(std::pair(group(before), Text::ToLower(before.LABEL)) <=
+                        std::pair(group(e), Text::ToLower(e.LABEL)),
                     "sorted by lower-cased label, the folders at their end");
         }
     }
@@ -108,10 +111,11 @@ void CheckPages(FolderListRequest request, const SettingsRec& settings, const st
         const FolderListing page = List(request, settings, found);
         Require(page.entries.size() <= limit, "a page holds the limit at most");
         const std::vector<DisplayEntry> listed = Listed(page);
-        Require(std::equal(listed.begin(), listed.end(), whole.begin() + static_cast<std::ptrdiff_t>(shown),
-                           whole.begin() + static_cast<std::ptrdiff_t>(std::min(whole.size(), shown + listed.size()))) &&
-                    shown + listed.size() <= whole.size(),
-                "a page goes on where the one before stopped");
+        Require(
+            std::equal(listed.begin(), listed.end(), whole.begin() + static_cast<std::ptrdiff_t>(shown),
+                       whole.begin() + static_cast<std::ptrdiff_t>(std::min(whole.size(), shown + listed.size()))) &&
+                shown + listed.size() <= whole.size(),
+            "a page goes on where the one before stopped");
         shown += listed.size();
         if (!page.moreIndex)
             break;
@@ -169,7 +173,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // A window asked for any later part of the listing.
     const FolderListing part = List(request, unlimited, found);
-    const std::size_t skipped = std::min<std::size_t>(static_cast<std::size_t>(std::max(request.skip, 0)), listed.size());
+    const std::size_t skipped =
+        std::min<std::size_t>(static_cast<std::size_t>(std::max(request.skip, 0)), listed.size());
     Require(Listed(part) == std::vector(listed.begin() + static_cast<std::ptrdiff_t>(skipped), listed.end()),
             "a later page starts at the entry it asks for");
     return 0;

@@ -29,7 +29,8 @@ using Fuzz::Require;
 constexpr std::array<std::string_view, 3> kTaskStems = {"TaskName", "TaskExec", "TaskIcon"};
 
 bool IsTaskKey(std::string_view key) {
-    return std::ranges::any_of(kTaskStems, [key](std::string_view stem) { return Text::StartsWithIgnoreCase(key, stem); });
+    return std::ranges::any_of(kTaskStems,
+                               [key](std::string_view stem) { return Text::StartsWithIgnoreCase(key, stem); });
 }
 
 bool FitsInt16(int value) {

@@ -1,13 +1,13 @@
 // The menu file codec: the input's text up to its first NUL is a menu file, the bytes
-// after it are edits as the menu editor makes them (three bytes each: what, menu,
-// position). The table is loaded, edited, saved, loaded and saved again; the two saves
-// must write the same keys, and the pool's index must agree with its links throughout.
+// after it are steps of the menu editor. The table is loaded, edited, saved, loaded and
+// saved again: the two saves must write the same keys, a saved table must load to its
+// end, and the pool's index must agree with its links.
 #include "fuzz_support.h"
 
 #include "core/message_box.h"
 #include "menus/data_manager.h"
-#include "menus/menu_editing.h"
 #include "menus/menu_file.h"
+#include "prefs/menu_editor.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -17,6 +17,8 @@
 namespace {
 
 using Fuzz::Require;
+
+constexpr std::size_t kStep = 5;
 
 // Every chain names live slots whose owner and links match their place in it; every
 // other slot but the reserved one is free and queued for reuse once.
@@ -48,30 +50,47 @@ void RequireConsistent(const MenuTable& table) {
         Require(uses[slot] == 1, "every slot is in one chain or queued free, once");
 }
 
-void Edit(MenuTable& table, std::uint8_t what, std::uint8_t menuByte, std::uint8_t position) {
-    const std::int32_t count = table.MenuCount();
-    if (what % 5 == 3) {
-        Require(DataManager::AddMenu(table) == count + 1, "a new menu comes last");
-        return;
-    }
-    if (count == 0)
-        return;
-    const std::int32_t menu = menuByte % count;
-    const bool there = position <= DataManager::LastItemPosition(table, menu);
-    switch (what % 5) {
+// One step of the menu editor, named by five bytes: what, menu, position, and for a move
+// the menu and position it goes to. A refused step must leave the table as it was; the
+// copy that shows it is made for small tables only, as it costs the whole table per step.
+void Edit(MenuTable& table, const std::uint8_t* step) {
+    const std::int32_t menus = table.MenuCount() + 1; // one past the last: no such menu
+    const std::int32_t menu = step[1] % menus;
+    const MenuEditor::Place item{menu, step[2]};
+    const bool small = table.pool.size() <= 4096;
+    const MenuTable before = small ? table : MenuTable{};
+    MenuEditor::Outcome outcome;
+    switch (step[0] % 9) {
     case 0:
-        Require(DataManager::AppendItem(table, menu) != kNoItem, "an item can be appended to a menu");
+        outcome = MenuEditor::AddMenu(table);
         break;
     case 1:
-        Require((DataManager::InsertItem(table, menu, position) != kNoItem) == there, "inserts before an item");
+        outcome = MenuEditor::DeleteMenu(table, menu);
         break;
     case 2:
-        Require(DataManager::DeleteItem(table, menu, position) == there, "deletes an item that is there");
+        outcome = MenuEditor::AddItem(table, menu);
+        break;
+    case 3:
+        outcome = MenuEditor::InsertItem(table, menu, item.position);
+        break;
+    case 4:
+        outcome = MenuEditor::DeleteItem(table, item);
+        break;
+    case 5:
+        outcome = MenuEditor::CopyItem(table, item);
+        break;
+    case 6:
+        outcome = MenuEditor::MoveItem(table, item, step[3] % menus, step[4]);
+        break;
+    case 7:
+        outcome = MenuEditor::MoveUp(table, item);
         break;
     default:
-        Require(DataManager::RemoveMenu(table, menu + 1) && table.MenuCount() == count - 1, "a menu is removed");
+        outcome = MenuEditor::MoveDown(table, item);
         break;
     }
+    if (small && !outcome.Done())
+        Require(MenuEditor::SameMenus(table, before), "a refused edit leaves the table as it was");
 }
 
 void RequireRoundTrip(const MenuTable& table) {
@@ -100,9 +119,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const MenuLoadResult loaded = DataManager::LoadMenuFile(table, Fuzz::ReaderOf(Fuzz::SectionsOf(text)));
     Require(loaded.complete == loaded.error.empty(), "a load that ends early says why");
     RequireConsistent(table);
-    for (std::size_t i = 0; i + 3 <= edits.size(); i += 3)
-        Edit(table, static_cast<std::uint8_t>(edits[i]), static_cast<std::uint8_t>(edits[i + 1]),
-             static_cast<std::uint8_t>(edits[i + 2]));
+    for (std::size_t i = 0; i + kStep <= edits.size(); i += kStep)
+        Edit(table, reinterpret_cast<const std::uint8_t*>(edits.data() + i));
     RequireConsistent(table);
     RequireRoundTrip(table);
     return 0;

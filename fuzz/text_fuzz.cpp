@@ -60,7 +60,8 @@ void CheckCase(const std::string& a, const std::string& b) {
     Require(Text::EqualsIgnoreCase(a, upper) && Text::EqualsIgnoreCase(lower, upper), "a text equals its folded forms");
     Require(Text::EqualsIgnoreCase(a, b) == (upper == Text::ToUpper(b)), "equal ignoring case is equal upper-cased");
     Require(Text::StartsWithIgnoreCase(lower + b, upper), "a text starts with its own start in any case");
-    Require(Text::StartsWithIgnoreCase(a, b) == (b.size() <= a.size() && Text::EqualsIgnoreCase(a.substr(0, b.size()), b)),
+    Require(Text::StartsWithIgnoreCase(a, b) ==
+                (b.size() <= a.size() && Text::EqualsIgnoreCase(a.substr(0, b.size()), b)),
             "starts with is equal over the prefix");
     if (const std::optional<std::size_t> units = Utf16UnitsOfWellFormed(a))
         Require(Text::Utf16Length(a) == *units, "one UTF-16 unit per character, two past U+FFFF");
