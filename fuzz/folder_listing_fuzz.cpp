@@ -92,6 +92,7 @@ void CheckWhole(const FolderListing& whole, const std::vector<Found>& found, con
                                                 name[e.LABEL.size()] == '.');
                                     }),
                 "the label is the name, or the name less its extension");
+        Require(!e.LABEL.empty(), "every entry has a label");
         if (i > 0) {
             const DisplayEntry& before = listed[i - 1];
             Require(std::pair(group(before), Text::ToLower(before.LABEL)) <=
