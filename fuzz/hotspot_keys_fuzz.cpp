@@ -17,7 +17,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,10 +30,6 @@ constexpr std::array<std::string_view, 3> kTaskStems = {"TaskName", "TaskExec", 
 bool IsTaskKey(std::string_view key) {
     return std::ranges::any_of(kTaskStems,
                                [key](std::string_view stem) { return Text::StartsWithIgnoreCase(key, stem); });
-}
-
-bool FitsInt16(int value) {
-    return value >= std::numeric_limits<std::int16_t>::min() && value <= std::numeric_limits<std::int16_t>::max();
 }
 
 void CheckReaders(const ProfileSection& section, FuzzedDataProvider& input) {
@@ -54,11 +49,15 @@ void CheckReaders(const ProfileSection& section, FuzzedDataProvider& input) {
     Require(taskRecords.size() == static_cast<std::size_t>(std::clamp(taskCount, 0, 10)), "tasks 0..count-1");
 
     const auto index = input.ConsumeIntegralInRange<std::size_t>(0, 12);
-    const int left = input.ConsumeIntegral<int>();
-    const int top = input.ConsumeIntegral<int>();
-    ProfileWrites writes = HotSpotPlaceWrites(index, left, top);
+    // A place on a screen: pixel coordinates fit 16 bits.
+    const auto left = input.ConsumeIntegral<std::int16_t>();
+    const auto top = input.ConsumeIntegral<std::int16_t>();
+    // The records saved, then a hotspot's menu dropped in a new place.
+    ProfileWrites writes;
     WriteHotSpotKeys(records, writes);
     WriteUserTaskKeys(taskRecords, writes);
+    const ProfileWrites place = HotSpotPlaceWrites(index, left, top);
+    writes.insert(writes.end(), place.begin(), place.end());
     HotSpotKeyReader hotSpotsAgain;
     UserTaskKeyReader tasksAgain;
     for (const ProfileEntry& entry : Fuzz::SectionOf(writes, kSettingsSection))
@@ -69,11 +68,9 @@ void CheckReaders(const ProfileSection& section, FuzzedDataProvider& input) {
     std::vector<HotspotRec> expected = records;
     expected.resize(HotSpotKeyReader::kIndexes);
     HotspotRec& placed = expected[index % HotSpotKeyReader::kIndexes];
-    if (FitsInt16(left))
-        placed.Menuleft = static_cast<std::int16_t>(left);
-    if (FitsInt16(top))
-        placed.Menutop = static_cast<std::int16_t>(top);
-    Require(hotSpotsAgain.Records(9) == expected, "written hotspots read back, the dropped menu's place first");
+    placed.Menuleft = left;
+    placed.Menutop = top;
+    Require(hotSpotsAgain.Records(9) == expected, "written hotspots read back with the dropped menu's place");
 }
 
 // Start-up loads the hotspots, puts the default in place of none, and Apply writes them:
