@@ -6,10 +6,10 @@
 #include "core/text.h"
 
 #include <cstdio>
-#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <utility>
 
 namespace Fuzz {
@@ -22,7 +22,7 @@ inline void Require(bool holds, const char* property) {
     __builtin_trap();
 }
 
-using Sections = std::map<std::string, ProfileSection>;
+using Sections = std::unordered_map<std::string, ProfileSection>;
 
 // Lines split at "\n" (a "\r" before it dropped); a line is "key=value" at its first '='
 // and a line without '=' is skipped, as the profile functions skip it.
@@ -64,11 +64,12 @@ inline Sections SectionsOf(std::string_view text) {
 // the end of its section, a later write of the same key (in any case) replaces its value.
 inline Sections SectionsOf(const ProfileWrites& writes) {
     Sections sections;
-    std::map<std::pair<std::string, std::string>, std::size_t> places;
+    // Where each key stands in its section, by upper-cased section and key.
+    std::unordered_map<std::string, std::unordered_map<std::string, std::size_t>> places;
     for (const ProfileWrite& write : writes) {
-        std::string name = Text::ToUpper(write.section);
+        const std::string name = Text::ToUpper(write.section);
         ProfileSection& section = sections[name];
-        const auto [place, added] = places.try_emplace({std::move(name), Text::ToUpper(write.key)}, section.size());
+        const auto [place, added] = places[name].try_emplace(Text::ToUpper(write.key), section.size());
         if (added)
             section.push_back({write.key, write.value});
         else

@@ -57,7 +57,7 @@ void Edit(MenuTable& table, const std::uint8_t* step) {
     const std::int32_t menus = table.MenuCount() + 1; // one past the last: no such menu
     const std::int32_t menu = step[1] % menus;
     const MenuEditor::Place item{menu, step[2]};
-    const bool small = table.pool.size() <= 4096;
+    const bool small = table.pool.size() + table.menus.size() <= 4096;
     const MenuTable before = small ? table : MenuTable{};
     MenuEditor::Outcome outcome;
     switch (step[0] % 9) {
