@@ -32,7 +32,7 @@ for target in "${targets[@]}"; do
     result=ok
     if ! nice -n 19 build/fuzz/bin/"${target}"_fuzz -max_total_time="$seconds" -timeout=60 -print_final_stats=1 \
         -artifact_prefix="$run/crashes/" "$run/corpus" >"$run/log" 2>&1; then
-        result="CRASH: $(ls "$run"/crashes/{crash,leak,oom,timeout}-* 2>/dev/null | head -n 1) (log: $run/log)"
+        result="CRASH: $(ls "$run"/crashes/{crash,leak,oom,timeout}-* 2>/dev/null | head -n 1 || true) (log: $run/log)"
     fi
     executions=$(sed -nE 's/^stat::number_of_executed_units: *([0-9]+).*/\1/p' "$run/log" | tail -n 1)
     elapsed=$(sed -nE 's/^Done [0-9]+ runs in ([0-9]+) second.*/\1/p' "$run/log" | tail -n 1)
