@@ -12,6 +12,9 @@ PACKAGES=(
     g++ cmake ninja-build python3 googletest libgtest-dev dpkg-dev
     g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools
     wine wine64 xvfb xauth imagemagick fonts-wqy-microhei fonts-dejavu-core
+    # The fuzz preset: clang 16 with libFuzzer and the sanitizers' runtimes. Debian 12's
+    # default clang (14) cannot compile libstdc++ 12's ranges, which the core uses.
+    clang-16 libclang-rt-16-dev
 )
 
 say() { echo "bootstrap: $*" >&2; }

@@ -434,6 +434,9 @@ constexpr bool EveryControlFits() {
     return true;
 }
 
+// Clang before 17 cannot make libstdc++ 12's std::string in a constant expression, so
+// under it (the fuzz build) the defaults are checked by the GCC builds alone.
+#if !defined(__clang__) || __clang_major__ >= 17
 constexpr std::int32_t NumberIn(const SettingsRec& settings, const SettingField& field) {
     if (const auto* member = std::get_if<bool SettingsRec::*>(&field))
         return settings.**member ? 1 : 0;
@@ -472,10 +475,12 @@ constexpr bool EveryDefaultFits() {
     return true;
 }
 
+static_assert(EveryDefaultFits());
+#endif
+
 static_assert(LookKeysComeFirst());
 static_assert(EveryTypeFits());
 static_assert(EveryControlFits());
-static_assert(EveryDefaultFits());
 
 } // namespace
 

@@ -94,6 +94,11 @@ char32_t FirstCodePoint(std::string_view utf8) {
             return U'\uFFFD';
         c = (c << 6) | (byte(static_cast<std::size_t>(i)) & 0x3F);
     }
+    // A longer form than the character needs, a UTF-16 surrogate or a value past U+10FFFF
+    // spells no character: "\xC1\x81" must not pass for 'A'.
+    constexpr char32_t kShortest[] = {0, 0, 0x80, 0x800, 0x10000};
+    if (c < kShortest[length] || (c >= 0xD800 && c <= 0xDFFF) || c > 0x10FFFF)
+        return U'\uFFFD';
     return c;
 }
 

@@ -121,8 +121,10 @@ void FolderListBuilder::AddFile(std::string_view folder, std::string_view name) 
     if (!keep)
         return;
     DisplayEntry& added = entries_.emplace_back();
-    const bool dropExtension =
-        tail.fullLength && name[tail.start] == '.' && (Contains(kHiddenExtensions, ext) || !showExtensions_);
+    // A name that is all extension (".env") keeps it: an empty label would say nothing, and
+    // would sort above the folders' prefix and so shift its removal onto the wrong entries.
+    const bool dropExtension = tail.fullLength && tail.start > 0 && name[tail.start] == '.' &&
+                               (Contains(kHiddenExtensions, ext) || !showExtensions_);
     added.LABEL = dropExtension ? name.substr(0, tail.start) : name;
     added.PATH.reserve(folder.size() + name.size());
     added.PATH.append(folder).append(name);

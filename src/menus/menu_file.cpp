@@ -13,10 +13,6 @@ namespace {
 
 constexpr std::string_view kMenusSection = "MENUS";
 
-// A file that asks for more items than this is damaged or hostile: positions are
-// filled up to the highest key, so a few keys could otherwise ask for gigabytes.
-constexpr std::size_t kMaxLoadedItems = std::size_t{1} << 18;
-
 // "LABEL", 3 -> "LABEL-3". Built by appending: GCC 12 warns falsely (-Wrestrict) about
 // a string literal + std::string.
 std::string NumberedKey(std::string_view name, std::int32_t number) {
@@ -146,6 +142,20 @@ void AddItemWrites(ProfileWrites& writes, const std::string& section, std::int32
 }
 
 } // namespace
+
+bool RoomForMenu(const MenuTable& table) {
+    return table.MenuCount() < kMaxMenus;
+}
+
+bool MenuHasRoom(const MenuTable& table, std::int32_t menu, std::int32_t added) {
+    return LastItemPosition(table, menu) + 1 + added <= kMaxMenuItems;
+}
+
+// Every slot but the reserved one and the free ones holds an item.
+bool FileHasRoom(const MenuTable& table, std::int32_t added) {
+    const std::size_t items = table.pool.size() - 1 - table.freeSlots.size();
+    return items + static_cast<std::size_t>(added) < kMaxLoadedItems;
+}
 
 MenuLoadResult LoadMenuFile(MenuTable& table, const SectionReader& readSection) {
     Reset(table);

@@ -5,6 +5,7 @@
 #include "desktop/hotspots.h"
 #include "menus/data_manager.h"
 #include "menus/menu_editing.h"
+#include "menus/menu_file.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -58,6 +59,20 @@ Place Place_(MenuTable& table, std::int32_t menu, std::int32_t to, const MenuIte
 
 Outcome Refused(std::string text) {
     return {{}, std::move(text)};
+}
+
+std::string MenuFull() {
+    return "A menu holds " + std::to_string(DataManager::kMaxMenuItems) + " items at most.";
+}
+
+// Why `added` more items cannot go into the menu; nothing when they can. A table the file
+// cannot hold would be saved and then not load to its end.
+std::optional<std::string> NoRoom(const MenuTable& table, std::int32_t menu, std::int32_t added) {
+    if (!DataManager::MenuHasRoom(table, menu, added))
+        return MenuFull();
+    if (!DataManager::FileHasRoom(table, added))
+        return "The menu file holds " + std::to_string(DataManager::kMaxLoadedItems - 1) + " items at most.";
+    return std::nullopt;
 }
 
 bool Blank(std::string_view text) {
@@ -229,6 +244,8 @@ std::optional<std::string> OpenedMenuWarning(const MenuTable& table, std::int32_
 }
 
 Outcome AddMenu(MenuTable& table) {
+    if (!DataManager::RoomForMenu(table))
+        return Refused("The menu file holds " + std::to_string(DataManager::kMaxMenus) + " menus at most.");
     const std::int32_t number = DataManager::AddMenu(table);
     for (int suffix = 1; MenuNameProblem(table, number - 1, table.menus[static_cast<std::size_t>(number)].NAME);)
         table.menus[static_cast<std::size_t>(number)].NAME = "NewMenu" + std::to_string(++suffix);
@@ -274,12 +291,16 @@ Outcome DeleteMenu(MenuTable& table, std::int32_t menu) {
 Outcome AddItem(MenuTable& table, std::int32_t menu) {
     if (!MenuExists(table, menu))
         return Refused("Choose a menu first.");
+    if (std::optional<std::string> full = NoRoom(table, menu, 1))
+        return Refused(*full);
     return {Place_(table, menu, ItemCount(table, menu), NewItem()), {}};
 }
 
 Outcome InsertItem(MenuTable& table, std::int32_t menu, std::int32_t position) {
     if (!MenuExists(table, menu))
         return Refused("Choose a menu first.");
+    if (std::optional<std::string> full = NoRoom(table, menu, 1))
+        return Refused(*full);
     return {Place_(table, menu, std::max(position, 0), NewItem()), {}};
 }
 
@@ -289,6 +310,8 @@ Outcome InsertItems(MenuTable& table, std::int32_t menu, std::int32_t position,
         return Refused("Choose a menu first.");
     if (items.empty())
         return Refused("Nothing was dropped that an item can stand for.");
+    if (std::optional<std::string> full = NoRoom(table, menu, static_cast<std::int32_t>(items.size())))
+        return Refused(*full);
     position = std::clamp(position, 0, ItemCount(table, menu));
     for (std::size_t added = 0; added < items.size(); ++added)
         Place_(table, menu, position + static_cast<std::int32_t>(added), items[added]);
@@ -306,6 +329,8 @@ Outcome CopyItem(MenuTable& table, Place item) {
     const MenuItemRec* original = ItemAt(table, item);
     if (!original)
         return Refused("Choose an item first.");
+    if (std::optional<std::string> full = NoRoom(table, item.menu, 1))
+        return Refused(*full);
     const MenuItemRec fields = *original; // the pool may move when it grows
     return {Place_(table, item.menu, item.position + 1, fields), {}};
 }
@@ -328,6 +353,8 @@ Outcome MoveItem(MenuTable& table, Place item, std::int32_t toMenu, std::int32_t
         return Refused("Choose the menu to move the item to.");
     if (toMenu != item.menu && MenuOpenedBy(table, *original) == toMenu)
         return Refused(kOwnMenu);
+    if (toMenu != item.menu && !DataManager::MenuHasRoom(table, toMenu, 1))
+        return Refused(MenuFull());
     const MenuItemRec fields = *original;
     DataManager::DeleteItem(table, item.menu, item.position);
     return {Place_(table, toMenu, to, fields), {}};

@@ -81,7 +81,8 @@ std::optional<std::string> MenuNameProblem(const MenuTable& table, std::int32_t 
 std::optional<std::string> OpenedMenuWarning(const MenuTable& table, std::int32_t menu);
 
 // The editing operations. Each answers the place of the row to select afterwards, or,
-// for a refusal, its sentence.
+// for a refusal, its sentence. What the menu file could not hold is refused (the limits
+// in menus/menu_file.h), since it would be saved and then not load to its end.
 struct Outcome {
     Place place;
     std::string refused; // empty when done

@@ -106,6 +106,8 @@ TEST(FolderListing, HidesExtensionsOfShortcutsAlwaysAndOfOtherFilesByTheSetting)
     // Only a dot fourth from the end of a name of four or more characters marks an extension.
     EXPECT_EQ(Listed(NoExtensions(), found),
               (Strings{".cf", "notes.md", "README", "report", "setup", "site", japanese}));
+    // A name that is all extension keeps it, and the folders stay on top with their own labels.
+    EXPECT_EQ(Listed(NoExtensions(), {File(".env"), Folder("Bin"), File(".lnk")}), (Strings{"Bin", ".env", ".lnk"}));
     // Characters, not bytes: the two-character name is short enough for the executables filter.
     EXPECT_EQ(Listed(settings, {File(japanese), File("\xD1\x84\xD0\xB0\xD0\xB9\xD0\xBB")}, Request(kFilterExecutables)),
               (Strings{japanese}));

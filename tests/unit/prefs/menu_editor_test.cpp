@@ -3,12 +3,15 @@
 #include "desktop/hotspots.h"
 #include "menus/data_manager.h"
 #include "menus/menu_editing.h"
+#include "menus/menu_file.h"
 #include "support/answered_message_boxes.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace MenuEditor;
@@ -284,4 +287,55 @@ TEST(MenuEditor, AHotKeyOfAnotherItemOfTheMenuIsNamedAndDroppedPathsBecomeItems)
         EXPECT_EQ(item.PATH, c.itemPath) << c.path;
         EXPECT_TRUE(ItemProblems(table, 0, item).empty()) << c.path;
     }
+}
+
+// At the menu file's limits every way of adding is refused and leaves the table as it
+// was, and the table saved there loads to its end.
+TEST(MenuEditor, RefusesWhatTheMenuFileCouldNotHold) {
+    MenuTable fullMenu = Fixture(); // Sub filled to the last position the file numbers
+    while (DataManager::MenuHasRoom(fullMenu, 1, 1))
+        DataManager::AppendItem(fullMenu, 1);
+    MenuTable allMenus;
+    while (DataManager::RoomForMenu(allMenus))
+        DataManager::AddMenu(allMenus);
+
+    using Op = std::function<Outcome(MenuTable&)>;
+    const std::pair<const char*, Op> adds[] = {
+        {"add", [](MenuTable& t) { return AddItem(t, 1); }},
+        {"insert", [](MenuTable& t) { return InsertItem(t, 1, 0); }},
+        {"copy", [](MenuTable& t) { return CopyItem(t, {1, 0}); }},
+        {"drop", [](MenuTable& t) { return InsertItems(t, 1, 0, {DroppedItem("C:\\a.lnk", false)}); }},
+        {"move in", [](MenuTable& t) { return MoveItem(t, {0, 0}, 1, 0); }},
+    };
+    for (const auto& [what, op] : adds) {
+        MenuTable table = fullMenu;
+        EXPECT_FALSE(op(table).Done()) << what;
+        EXPECT_TRUE(SameMenus(table, fullMenu)) << what;
+    }
+    MenuTable table = allMenus;
+    EXPECT_FALSE(AddMenu(table).Done());
+    EXPECT_EQ(table.MenuCount(), DataManager::kMaxMenus);
+
+    for (const MenuTable* full : {&fullMenu, &allMenus}) {
+        std::map<std::string, ProfileSection> sections;
+        for (const ProfileWrite& write : DataManager::SaveMenuFile(*full))
+            sections[write.section].push_back({write.key, write.value});
+        MenuTable loaded;
+        const SectionReader reader = [&](std::string_view name) { return sections[std::string(name)]; };
+        EXPECT_TRUE(DataManager::LoadMenuFile(loaded, reader).complete);
+        EXPECT_TRUE(SameMenus(loaded, *full));
+    }
+
+    // Items up to the load's limit, over many menus: one more goes nowhere.
+    MenuTable fullFile;
+    for (std::int32_t menu = 0; DataManager::FileHasRoom(fullFile, 1);
+         menu += DataManager::MenuHasRoom(fullFile, menu, 1) ? 0 : 1) {
+        if (menu >= fullFile.MenuCount())
+            DataManager::AddMenu(fullFile);
+        DataManager::AppendItem(fullFile, menu);
+    }
+    const std::size_t pool = fullFile.pool.size();
+    EXPECT_FALSE(AddItem(fullFile, fullFile.MenuCount() - 1).Done());
+    EXPECT_EQ(fullFile.pool.size(), pool);
+    EXPECT_EQ(pool, DataManager::kMaxLoadedItems);
 }
