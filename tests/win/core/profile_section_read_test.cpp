@@ -49,13 +49,13 @@ std::string RandomLine(std::mt19937& random) {
     case 0:
         return pick(kNames); // no '='
     case 1:
-        return ";" + pick(kNames) + "=" + pick(kValues); // a comment
+        return std::string(";") + pick(kNames) + "=" + pick(kValues); // a comment
     case 2:
         return ""; // a blank line
     case 3: // long: around the cut, with a pair of UTF-16 units across it at times
         return pick(kNames) + "=" + std::string(250 + random() % 8, 'v') + pick(kValues);
     case 4:
-        return "  " + pick(kNames) + " \t=" + pick(kValues) + " ";
+        return std::string("  ") + pick(kNames) + " \t=" + pick(kValues) + " ";
     default:
         return pick(kNames) + "=" + pick(kValues);
     }
@@ -88,7 +88,7 @@ std::string RandomFile(std::mt19937& random, const std::string& end) {
         const int lines = 1 + static_cast<int>(random() % 40);
         for (int i = 0; i < lines; ++i) {
             // An empty name ends the list of names; rare, so that most lists run long.
-            text += random() % 60 == 0 ? "=" + std::string(kValues[random() % std::size(kValues)]) : RandomLine(random);
+            text += random() % 60 == 0 ? std::string("=") + kValues[random() % std::size(kValues)] : RandomLine(random);
             text += end;
         }
     }
@@ -130,8 +130,13 @@ TEST(ProfileSectionRead, RandomFilesReadAtOnceAsKeyByKey) {
 TEST(ProfileSectionRead, HostileFilesReadAtOnceAsKeyByKey) {
     TestSupport::TempFolder dir;
     std::string thousands = "[S]\r\n";
-    for (int i = 0; i < 5000; ++i)
-        thousands += "K" + std::to_string(i % 1700) + "=" + std::to_string(i) + "\r\n";
+    for (int i = 0; i < 5000; ++i) {
+        thousands += 'K';
+        thousands += std::to_string(i % 1700);
+        thousands += '=';
+        thousands += std::to_string(i);
+        thousands += "\r\n";
+    }
     std::string binary = "[S]\r\n";
     for (int i = 0; i < 4096; ++i)
         binary += static_cast<char>((i * 7919) % 256 == 0 ? 1 : (i * 7919) % 256);
