@@ -24,6 +24,9 @@ namespace PrefsWin {
 
 class HotspotsPage {
 public:
+    // Another page is shown: the zones go with this page. The press on the page list
+    // that switched is handled before the zones' timer could see the button down.
+    void HideZones() { zones_.Hide(); }
     // The room it takes on the page, in dialog units.
     static constexpr int kRoomHeight = 420;
     static constexpr int kFirstId = 700;

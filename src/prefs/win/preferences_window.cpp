@@ -211,6 +211,8 @@ void PreferencesWindow::ShowPage(int index) {
     if (index < 0 || index >= static_cast<int>(pages_.size()))
         return;
     current_ = index;
+    if (hotspotsPage_)
+        hotspotsPage_->HideZones();
     ::SendMessageW(pageList_, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
     ::SetWindowTextW(heading_, Win::Widen(PageOf(pages_[static_cast<std::size_t>(index)]->page()).heading).c_str());
     for (std::size_t i = 0; i < pages_.size(); ++i)

@@ -25,6 +25,8 @@ public:
 
     // Shows the zones of the hotspots, in place of any shown before, over the owner.
     void Show(HWND owner, const std::vector<HotspotRec>& hotSpots);
+    // Takes the zones down at once.
+    void Hide() { window_.reset(); }
 
 private:
     friend LRESULT CALLBACK Win::FormWindowProc<ZoneOverlay>(HWND, UINT, WPARAM, LPARAM);
