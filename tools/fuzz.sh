@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the fuzz preset and runs each fuzz target, or those named, for SECONDS each on
-# a copy of its corpus (fuzz/corpus/<target>/) under build/fuzz/runs/<target>/, so the
-# tree stays clean. Prints per target the run time, executions, corpus size and whether
+# a copy of its inputs (fuzz/inputs/<target>/) under build/fuzz/runs/<target>/, so the
+# tree stays clean. Prints per target the run time, executions, the inputs kept and whether
 # a crash was found; a crashing input is left in the run's crashes/ folder. Exits
 # non-zero when a target crashed.
 #   tools/fuzz.sh 1200              every target for 20 minutes
@@ -15,7 +15,7 @@ if [ "$#" -gt 0 ]; then
     targets=("$@")
 else
     targets=()
-    for dir in fuzz/corpus/*/; do targets+=("$(basename "$dir")"); done
+    for dir in fuzz/inputs/*/; do targets+=("$(basename "$dir")"); done
 fi
 
 cmake --preset fuzz >/dev/null
@@ -26,18 +26,18 @@ failed=0
 for target in "${targets[@]}"; do
     run=build/fuzz/runs/$target
     rm -rf "$run"
-    mkdir -p "$run/corpus" "$run/crashes"
-    cp fuzz/corpus/"$target"/* "$run/corpus/"
+    mkdir -p "$run/inputs" "$run/crashes"
+    cp fuzz/inputs/"$target"/* "$run/inputs/"
     # The fuzzers share the machine: they yield to everything else.
     result=ok
     if ! nice -n 19 build/fuzz/bin/"${target}"_fuzz -max_total_time="$seconds" -timeout=60 -print_final_stats=1 \
-        -artifact_prefix="$run/crashes/" "$run/corpus" >"$run/log" 2>&1; then
+        -artifact_prefix="$run/crashes/" "$run/inputs" >"$run/log" 2>&1; then
         result="CRASH: $(ls "$run"/crashes/{crash,leak,oom,timeout}-* 2>/dev/null | head -n 1 || true) (log: $run/log)"
     fi
     executions=$(sed -nE 's/^stat::number_of_executed_units: *([0-9]+).*/\1/p' "$run/log" | tail -n 1)
     elapsed=$(sed -nE 's/^Done [0-9]+ runs in ([0-9]+) second.*/\1/p' "$run/log" | tail -n 1)
-    printf '%-16s %6ss %12s executions %6s inputs in corpus  %s\n' "$target" "${elapsed:-?}" "${executions:-?}" \
-        "$(find "$run/corpus" -type f | wc -l)" "$result"
+    printf '%-16s %6ss %12s executions %6s inputs kept  %s\n' "$target" "${elapsed:-?}" "${executions:-?}" \
+        "$(find "$run/inputs" -type f | wc -l)" "$result"
     if [ "$result" = ok ]; then passed=$((passed + 1)); else failed=$((failed + 1)); fi
 done
 

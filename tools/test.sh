@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds every preset and runs every test tier: the native unit tests (ASan and
-# UBSan), each fuzz target for a short while on its corpus, then the shell and
+# UBSan), each fuzz target for a short while on its inputs, then the shell and
 # end-to-end tests of the 64-bit build under Wine. The 32-bit release build is
 # compiled with its tests. Exits non-zero on any failure.
 set -euo pipefail
@@ -42,7 +42,7 @@ run_tier() {
     rm -f "$log"
 }
 
-# Each fuzz target for 15 seconds on its corpus, where the inputs that once crashed it
+# Each fuzz target for 15 seconds on its inputs, where the inputs that once crashed it
 # are kept, so a fault that comes back shows. A target counts as one test.
 run_fuzz_tier() {
     local log

@@ -47,8 +47,8 @@ def envelope(i, n, attack, decay):
 class Noise:
     """Deterministic white noise (a linear congruential generator)."""
 
-    def __init__(self, seed):
-        self.state = seed
+    def __init__(self, start):
+        self.state = start
 
     def next(self):
         self.state = (self.state * 1103515245 + 12345) & 0x7FFFFFFF

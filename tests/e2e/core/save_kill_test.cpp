@@ -98,8 +98,8 @@ TEST(SaveKills, AThousandKillsWhileSavingLeaveEveryFileWholeAndOldOrNew) {
     Win::UniqueKernelHandle ready(::CreateEventW(&inherited, TRUE, FALSE, nullptr));
     ASSERT_TRUE(ready);
 
-    const unsigned seed = std::random_device{}();
-    std::mt19937 random(seed);
+    const unsigned randomStart = std::random_device{}();
+    std::mt19937 random(randomStart);
     // One round of both saves or two, here: the kills fall on every step of either save.
     std::uniform_int_distribution<DWORD> moment(0, 60);
     constexpr int kKills = 1000;
@@ -139,9 +139,9 @@ TEST(SaveKills, AThousandKillsWhileSavingLeaveEveryFileWholeAndOldOrNew) {
         }
     }
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    std::printf("%d kills in %.1f s (seed %u); mid-save: TvMenus.ini %d, Helmora.ini %d; "
+    std::printf("%d kills in %.1f s (random start %u); mid-save: TvMenus.ini %d, Helmora.ini %d; "
                 "left holding the second set: TvMenus.ini %d, Helmora.ini %d\n",
-                kKills, seconds, seed, tally[0].midSave, tally[1].midSave, tally[0].asSecond, tally[1].asSecond);
+                kKills, seconds, randomStart, tally[0].midSave, tally[1].midSave, tally[0].asSecond, tally[1].asSecond);
     for (std::size_t f = 0; f < 2; ++f) {
         // Both contents must turn up, and kills must land inside saves, or the run proved
         // little. Seen here: some hundreds of each.
