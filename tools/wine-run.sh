@@ -5,7 +5,7 @@
 # The prefix is private to the build (created once, then reused) and shows a
 # 1024x768 virtual desktop, so that input sent by one process is seen by another.
 # --dpi makes a prefix whose screen has that many dots per inch (96 otherwise), with
-# the desktop grown to match; give such a prefix a folder of its own.
+# the desktop grown to match (up to 1536x1152); give such a prefix a folder of its own.
 # Xvfb is started when there is no display. Runs are serialised on the prefix, and
 # the prefix's wineserver is stopped after each run.
 set -uo pipefail
@@ -39,7 +39,9 @@ make_prefix() {
     [ -f "$WINEPREFIX/.tarvex-ready" ] && return 0
     wineboot --init >/dev/null 2>&1
     wine reg add 'HKCU\Software\Wine\Explorer' /v Desktop /d Default /f >/dev/null 2>&1
-    wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$((1024 * dpi / 96))x$((768 * dpi / 96))" /f \
+    # The desktop grows with the DPI up to 144, the largest the X screen holds.
+    local grown=$((dpi < 144 ? dpi : 144))
+    wine reg add 'HKCU\Software\Wine\Explorer\Desktops' /v Default /d "$((1024 * grown / 96))x$((768 * grown / 96))" /f \
         >/dev/null 2>&1
     if [ "$dpi" != 96 ]; then
         wine reg add 'HKCU\Control Panel\Desktop' /v LogPixels /t REG_DWORD /d "$dpi" /f >/dev/null 2>&1

@@ -34,7 +34,7 @@ constexpr std::array<HotSpotKey, HotSpotKeyReader::kFields> kHotSpotKeys = {
     HOTSPOT_KEY(FileTypeMask), HOTSPOT_KEY(OnMouse),     HOTSPOT_KEY(MouseButton), HOTSPOT_KEY(UseHotKey),
     HOTSPOT_KEY(Hotkey),       HOTSPOT_KEY(ShiftHotKey), HOTSPOT_KEY(Theme),       HOTSPOT_KEY(Inherit),
     HOTSPOT_KEY(SoundPath),    HOTSPOT_KEY(AppPath),     HOTSPOT_KEY(Type),        HOTSPOT_KEY(StartPath),
-    HOTSPOT_KEY(AlwaysOpen),   HOTSPOT_KEY(Horizontal),  HOTSPOT_KEY(ForceOnTop),
+    HOTSPOT_KEY(AlwaysOpen),   HOTSPOT_KEY(Horizontal),  HOTSPOT_KEY(ForceOnTop),    HOTSPOT_KEY(Monitor),
 };
 
 #undef HOTSPOT_KEY

@@ -22,7 +22,7 @@ ProfileWrites HotSpotPlaceWrites(std::size_t index, int left, int top);
 class HotSpotKeyReader {
 public:
     static constexpr std::size_t kIndexes = 10;
-    static constexpr std::size_t kFields = 27;
+    static constexpr std::size_t kFields = 28;
 
     // False when the key is not a hotspot key. A key whose index or field is unknown is a
     // hotspot key that stores nothing; the first occurrence of a key wins.

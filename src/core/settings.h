@@ -40,6 +40,7 @@ struct HotspotRec {
     std::int16_t AlwaysOpen = 0;
     bool Horizontal = false;
     bool ForceOnTop = false;
+    std::int16_t Monitor = 0; // where bumps count: 0 on any monitor, else the monitor of that number
     bool operator==(const HotspotRec&) const = default;
 };
 
@@ -210,6 +211,9 @@ struct SettingsRec {
     std::int16_t GenMiddleClick = 3;
     std::int16_t GenDblClick = 0;
     std::int16_t GenBumpDelay = 5;
+    // Corner and edge bumps do nothing while the foreground window covers its whole
+    // monitor (a game, a video, a presentation); clicks and hot keys still work.
+    bool GenQuietFullScreen = true;
     std::int16_t GenSoundsOn = -1;    // a number in the file, not a boolean word
     std::int16_t GenAnimationOn = -1; // likewise
     bool GenUnzipAlwaysOverwrite = false;

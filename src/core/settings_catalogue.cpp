@@ -285,6 +285,8 @@ constexpr std::array kCatalogue = {
     SETTING(GenDblClick, Int16, kGeneral, kNoControl),
     // A countdown from 0 never fires, so an edge always waits at least one tick.
     SETTING(GenBumpDelay, Int16, kGeneral, Number(Global, "Mouse", "&Edge wait (1/100 s):", 1, 500)),
+    SETTING(GenQuietFullScreen, Boolean, kGeneral,
+            Check(Global, "Mouse", "I&gnore edges while a program fills the screen")),
     SETTING(GenSoundsOn, Int16, kGeneral, Check(Global, "Effects", "&Play menu sounds")),
     SETTING(GenAnimationOn, Int16, kGeneral, Check(Global, "Effects", "A&nimate menus")),
     SETTING(GenUnzipAlwaysOverwrite, Boolean, kGeneral, kNoControl),

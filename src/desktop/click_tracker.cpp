@@ -72,6 +72,7 @@ void TrackPress(ClickTracker& tracker, PendingEvent& event, const MouseSample& s
             tracker.Ticks = 0;
             event.ClickPoint = sample.cursor;
             event.ClickWindow = sample.windowAtCursor();
+            event.ClickMonitor = MenuWindow::MonitorNumberAt(sample.monitors, sample.cursor);
         }
     } else if (tracker.Pending && !tracker.Armed) {
         if (!down) {
@@ -93,30 +94,26 @@ void TrackPress(ClickTracker& tracker, PendingEvent& event, const MouseSample& s
     }
 }
 
-std::int16_t BumpCode(MenuWindow::Point cursor, int lastColumn, int lastRow) {
-    bool top = cursor.y == 0;
-    bool bottom = cursor.y == lastRow;
-    if (cursor.x == 0)
-        return top ? kTopLeftCorner : bottom ? kBottomLeftCorner : kLeftEdge;
-    if (cursor.x == lastColumn)
-        return top ? kTopRightCorner : bottom ? kBottomRightCorner : kRightEdge;
-    return top ? kTopEdge : kBottomEdge;
+std::int16_t BumpCode(const MenuWindow::EdgeContact& edges) {
+    if (edges.left)
+        return edges.top ? kTopLeftCorner : edges.bottom ? kBottomLeftCorner : kLeftEdge;
+    if (edges.right)
+        return edges.top ? kTopRightCorner : edges.bottom ? kBottomRightCorner : kRightEdge;
+    return edges.top ? kTopEdge : kBottomEdge;
 }
 
 void TrackEdges(ClickTracker& tracker, PendingEvent& event, const MouseSample& sample, std::int16_t bumpDelay) {
-    int lastColumn = sample.screenWidth - 1;
-    int lastRow = sample.screenHeight - 1;
-    MenuWindow::Point cursor = sample.cursor;
-    bool atEdge = cursor.x == 0 || cursor.x == lastColumn || cursor.y == 0 || cursor.y == lastRow;
-    tracker.AtEdge = atEdge ? kTrue : 0;
-    if (!atEdge) {
+    MenuWindow::EdgeContact edges = MenuWindow::OuterEdgesAt(sample.monitors, sample.cursor);
+    tracker.AtEdge = edges.Any() ? kTrue : 0;
+    if (!edges.Any()) {
         tracker.BumpCountdown = 0;
     } else if (tracker.BumpCountdown == 0 || AnyDown(sample)) {
         tracker.BumpCountdown = bumpDelay;
     } else if (tracker.BumpCountdown == 1) {
         event.PendingClick = kTrue;
-        event.PendingClickCode = BumpCode(cursor, lastColumn, lastRow);
-        event.ClickPoint = cursor; // where an OnMouse menu opens
+        event.PendingClickCode = BumpCode(edges);
+        event.ClickPoint = sample.cursor; // where an OnMouse menu opens
+        event.ClickMonitor = edges.monitor;
         tracker.Ticks = 0;
         tracker.BumpCountdown = kBumpFired;
     } else if (tracker.BumpCountdown != kBumpFired) {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "menuwindow/layout/geometry.h"
+#include "menuwindow/layout/monitors.h"
 
 #include <cstdint>
 #include <functional>
@@ -30,6 +31,7 @@ struct PendingEvent {
     std::int16_t PendingClickCode = 0;
     MenuWindow::Point ClickPoint;
     std::uintptr_t ClickWindow = 0;
+    int ClickMonitor = 0; // the number of the monitor it happened on; 0 for none
 };
 
 // Timer3's private state; -1 is true and 0 false, as in the settings' numbers.
@@ -52,8 +54,8 @@ struct MouseSample {
     // The window under the cursor, asked for only when a press begins or ends: finding
     // it is the dearest part of a look, and most looks need none.
     std::function<std::uintptr_t()> windowAtCursor;
-    int screenWidth = 0;
-    int screenHeight = 0;
+    // Bumps are raised on the outer edges of the whole desktop.
+    MenuWindow::Monitors monitors;
 };
 
 struct TrackerDelays {

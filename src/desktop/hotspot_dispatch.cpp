@@ -23,9 +23,10 @@ bool BelongsTo(const HotspotRec& hotspot, std::string_view title) {
     return hotspot.App == title || (hotspot.App == kDesktopApp && title == kShellDesktopTitle);
 }
 
-std::optional<int> FirstOfCode(const std::vector<HotspotRec>& hotSpots, std::int16_t code) {
+std::optional<int> FirstOfCode(const std::vector<HotspotRec>& hotSpots, std::int16_t code, int monitor) {
     for (std::size_t i = 0; i < hotSpots.size(); ++i) {
-        if (hotSpots[i].MouseButton == code)
+        const HotspotRec& hotspot = hotSpots[i];
+        if (hotspot.MouseButton == code && (hotspot.Monitor == kAnyMonitor || hotspot.Monitor == monitor))
             return static_cast<int>(i);
     }
     return std::nullopt;
@@ -103,11 +104,12 @@ std::string HotspotTitle(std::uintptr_t window, const WindowLookup& lookup) {
 }
 
 std::optional<Choice> ChooseHotspot(const std::vector<HotspotRec>& hotSpots, std::int16_t code,
-                                    MenuWindow::Point clickPoint, const std::function<ClickedWindow()>& clickedWindow) {
+                                    MenuWindow::Point clickPoint, int monitor,
+                                    const std::function<ClickedWindow()>& clickedWindow) {
     if (code == kMiddleClick)
         code = kMiddleAnywhere;
     if (code > kLastClickCode) {
-        if (std::optional<int> hotspot = FirstOfCode(hotSpots, code))
+        if (std::optional<int> hotspot = FirstOfCode(hotSpots, code, monitor))
             return Choice{*hotspot, {0, 0}};
         if (code != kMiddleAnywhere)
             return std::nullopt;
@@ -123,6 +125,11 @@ std::optional<Choice> ChooseHotspot(const std::vector<HotspotRec>& hotSpots, std
             return Choice{static_cast<int>(i), window.origin};
     }
     return std::nullopt;
+}
+
+bool QuietBump(const SettingsRec& settings, std::int16_t code, const std::function<bool()>& foregroundFillsMonitor) {
+    bool bump = code >= kTopLeftCorner && code <= kRightEdge;
+    return bump && settings.GenQuietFullScreen && foregroundFillsMonitor();
 }
 
 Toggle DecideToggle(const MenuWindow::CascadeList& openMenus, int hotspot, std::string_view groupName) {

@@ -86,13 +86,23 @@ struct Choice {
     MenuWindow::Point origin; // the top-left of the window the hotspot belongs to
 };
 
+// A hotspot's Monitor: its bumps and middle clicks anywhere count on every monitor, or
+// only on the one of that number.
+inline constexpr std::int16_t kAnyMonitor = 0;
+
 // The hotspot a click or bump event fires. Bumps and a middle click (as code 11) take
-// the first hotspot of their code anywhere on the screen; clicks take the first hotspot
+// the first hotspot of their code anywhere on the screen whose Monitor is any or the
+// event's monitor (its number; 0 when off every monitor); clicks take the first hotspot
 // of the clicked window (or "Desktop" for "Program Manager") whose rectangle holds the
 // point, relative to that window, bounds included. The window is looked at only when a
 // rectangle has to be tested; one of this program's own, or one titled "tarvex", fires nothing.
 std::optional<Choice> ChooseHotspot(const std::vector<HotspotRec>& hotSpots, std::int16_t code,
-                                    MenuWindow::Point clickPoint, const std::function<ClickedWindow()>& clickedWindow);
+                                    MenuWindow::Point clickPoint, int monitor,
+                                    const std::function<ClickedWindow()>& clickedWindow);
+
+// Whether an event goes unanswered: a corner or edge bump, with GenQuietFullScreen on,
+// while the foreground window fills its monitor (asked only then).
+bool QuietBump(const SettingsRec& settings, std::int16_t code, const std::function<bool()>& foregroundFillsMonitor);
 
 // What firing a hotspot does to the open menus, walked from the first: its own menu
 // closes (firing it again is a toggle) or, when AlwaysOpen, comes forward and stays; a

@@ -101,8 +101,20 @@ bool FieldEnabled(const HotspotRec& hotspot, HotspotField field) {
     case HotspotField::Y1:
     case HotspotField::X2:
     case HotspotField::Y2: return hotspot.MouseButton >= 0 && hotspot.MouseButton <= kLastEventWithArea;
+    case HotspotField::Monitor: return hotspot.MouseButton > kLastEventWithArea;
     default: return true;
     }
+}
+
+std::vector<std::string> MonitorChoices(int monitorCount, std::int16_t chosen) {
+    std::vector<std::string> choices{"Any monitor"};
+    for (int number = 1; number <= std::max<int>(monitorCount, chosen); ++number) {
+        std::string name = "Monitor " + std::to_string(number);
+        if (number > monitorCount)
+            name.append(" (not connected)");
+        choices.push_back(std::move(name));
+    }
+    return choices;
 }
 
 std::string FieldText(const HotspotRec& hotspot, HotspotField field) {

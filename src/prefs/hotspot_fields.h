@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace Preferences {
 
@@ -34,6 +35,7 @@ enum class HotspotField {
     FileTypes,   // FileTypeMask
     Caption,     // Menuname
     MouseEvent,
+    Monitor,     // where bumps and middle clicks anywhere count
     Application, // App
     X1,
     Y1,
@@ -55,8 +57,8 @@ enum class HotspotField {
 // The label of each field in the order of HotspotField (a check box's text; the target's
 // label follows the action), and the page's buttons. Mnemonics are unique on the page,
 // the window's own buttons included.
-inline constexpr std::array<std::string_view, 23> kHotspotFieldLabels = {
-    "A&ction:", "", "Ar&guments:", "Start &folder:", "File t&ypes:", "Menu capt&ion:", "Mouse e&vent:",
+inline constexpr std::array<std::string_view, 24> kHotspotFieldLabels = {
+    "A&ction:", "", "Ar&guments:", "Start &folder:", "File t&ypes:", "Menu capt&ion:", "Mouse e&vent:", "Monitor:",
     "A&pplication:", "Left (x1):", "Top (y1):", "Right (x2):", "Bottom (y2):", "Open the menu at the c&ursor",
     "Menu left:", "Menu top:", "Use a hot &key", "Hot key:", "Gr&oup:", "Menu stays open (al&ways open)",
     "Horizontal m&enu", "Menu always on &top", "The&me folder:", "Sou&nd file:"};
@@ -70,6 +72,10 @@ bool FieldApplies(const HotspotRec& hotspot, HotspotField field);
 // Whether the field can be changed: the menu's place is the cursor's with OnMouse, the
 // hot key needs its switch, and corner, edge and anywhere events test no rectangle.
 bool FieldEnabled(const HotspotRec& hotspot, HotspotField field);
+
+// The choices of the Monitor field, by its value: "Any monitor", then each monitor by
+// its number; a number past the monitors there are now is listed too, as not connected.
+std::vector<std::string> MonitorChoices(int monitorCount, std::int16_t chosen);
 
 // A text or number field as the page shows it.
 std::string FieldText(const HotspotRec& hotspot, HotspotField field);

@@ -4,6 +4,7 @@
 #include "core/win/autostart.h"
 #include "core/win/subroutines.h"
 #include "desktop/win/desktop_windows.h"
+#include "menuwindow/win/screen_area.h"
 #include "win/text_convert.h"
 
 #include <windowsx.h>
@@ -81,6 +82,11 @@ LRESULT Form1::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPar
         // Closed from outside (a task manager, the system): leave the desktop as it was.
         Subroutines::ExitProgram(*this, true);
         return 0;
+    case WM_DISPLAYCHANGE:
+    case WM_SETTINGCHANGE:
+        // Monitors came, went, moved or changed their scaling, or a work area changed.
+        MenuWindow::ForgetMonitors();
+        return ::DefWindowProcW(hwnd, message, wParam, lParam);
     case WM_QUERYENDSESSION:
         return TRUE;
     case WM_ENDSESSION:

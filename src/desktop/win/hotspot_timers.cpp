@@ -6,8 +6,7 @@
 #include "desktop/win/hotspot_windows.h"
 #include "menus/win/launcher.h"
 #include "menuwindow/win/form2.h"
-
-#include <windowsx.h>
+#include "menuwindow/win/screen_area.h"
 
 #include <array>
 #include <optional>
@@ -57,20 +56,19 @@ std::uintptr_t ParentOf(std::uintptr_t window) {
     return reinterpret_cast<std::uintptr_t>(::GetParent(AsWindow(window)));
 }
 
-// The cursor is the one the timer message carries: it is where the cursor is as the
-// tick is taken, and reading it costs nothing, where asking for the cursor may cost a
-// round trip to the display (under Wine, a query of the X server on every tick).
+// The cursor is asked for on every look: the position a timer message carries goes
+// stale under Wine while another program's window has the foreground, and the edges
+// would then never see the cursor leave and come back.
 Hotspots::MouseSample SampleMouse(KeysNow& keys) {
     Hotspots::MouseSample sample;
     sample.left = keys.Down(VK_LBUTTON);
     sample.right = keys.Down(VK_RBUTTON);
     sample.middle = keys.Down(VK_MBUTTON);
-    DWORD position = ::GetMessagePos();
-    POINT cursor{GET_X_LPARAM(position), GET_Y_LPARAM(position)};
+    POINT cursor{};
+    ::GetCursorPos(&cursor);
     sample.cursor = {cursor.x, cursor.y};
     sample.windowAtCursor = [cursor] { return reinterpret_cast<std::uintptr_t>(::WindowFromPoint(cursor)); };
-    sample.screenWidth = ::GetSystemMetrics(SM_CXSCREEN);
-    sample.screenHeight = ::GetSystemMetrics(SM_CYSCREEN);
+    sample.monitors = MenuWindow::CurrentMonitors();
     return sample;
 }
 
@@ -166,8 +164,10 @@ bool HotspotTimers::Dispatch() {
         return true;
     }
     event_.PendingClick = 0;
+    if (Hotspots::QuietBump(program.settings, event_.PendingClickCode, HotspotWindows::ForegroundFillsMonitor))
+        return false;
     std::optional<Hotspots::Choice> choice =
-        Hotspots::ChooseHotspot(program.settings.HotSpots, event_.PendingClickCode, event_.ClickPoint,
+        Hotspots::ChooseHotspot(program.settings.HotSpots, event_.PendingClickCode, event_.ClickPoint, event_.ClickMonitor,
                                 [this] { return ClickedWindowOf(event_.ClickWindow); });
     if (choice)
         Fire(choice->hotspot, choice->origin, event_.ClickPoint);

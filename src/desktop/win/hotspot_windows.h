@@ -15,4 +15,8 @@ std::string TitleOf(HWND window);
 // Whether the window belongs to this process.
 bool IsOurs(HWND window);
 
+// Whether the foreground window fills its whole monitor, as a game, a video or a
+// presentation does; the desktop and the program's own windows never count.
+bool ForegroundFillsMonitor();
+
 } // namespace HotspotWindows

@@ -13,6 +13,12 @@ Point OpeningPoint(const CascadeRec& record) {
     return {record.origin.x + record.position.x, record.origin.y + record.position.y};
 }
 
+Monitor MonitorOfMenu(const CascadeRec& record, Monitors monitors) {
+    if (record.anchor || record.onMouse)
+        return NearestMonitor(monitors, OpeningPoint(record));
+    return MonitorOfPlace(monitors, OpeningPoint(record));
+}
+
 Placement PlaceMenu(const CascadeRec& record, const MenuScene& scene, Rect workArea) {
     Size window = scene.layout.window;
     if (record.anchor) {

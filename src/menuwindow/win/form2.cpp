@@ -204,6 +204,9 @@ LRESULT Form2::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPar
     case WM_TIMER:
         Form_Timer(wParam);
         return 0;
+    case WM_DPICHANGED:
+        Form_DpiChanged(HIWORD(wParam));
+        return 0;
     case kCloseCascadeMessage:
         openMenus_.CloseAll(); // this object is gone afterwards
         return 0;

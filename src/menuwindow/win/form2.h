@@ -146,8 +146,11 @@ private:
     // Lays out, places and paints the window around a display list, in fonts made anew.
     void Rebuild(MenuWindow::DisplayList list);
     MenuWindow::MenuScene LayOut(MenuWindow::DisplayList list, int dpi);
-    // Places and paints the window around the scene.
+    // Places and paints the window around the scene: where the cascade record says, or
+    // at a placement given.
     void Present();
+    void Present(const MenuWindow::Placement& placement);
+    void Form_DpiChanged(int dpi);
     void tmrUpdateTaskList_Timer();
     void Place();
     void PaintSurface();

@@ -20,11 +20,23 @@ void Form2::PaintMenu() {
 }
 
 void Form2::Rebuild(DisplayList list) {
-    int dpi = ScreenDpi();
+    int dpi = MonitorOfMenu(Record(), CurrentMonitors()).dpi;
     fonts_.Build(look_, dpi);
     pictures_.List(PictureFolderPath(look_.BitmapsFolder, programFolder_));
     scene_ = LayOut(std::move(list), dpi);
     Present();
+}
+
+// The window was moved onto a monitor of another scaling (or the monitor's scaling
+// changed): it is laid out in sizes for the new DPI where it stands.
+void Form2::Form_DpiChanged(int dpi) {
+    if (host_ || dpi <= 0 || dpi == scene_.dpi)
+        return;
+    Rect now = ScreenBounds();
+    fonts_.Build(look_, dpi);
+    icons_.Clear();
+    scene_ = LayOut(scene_.list, dpi);
+    Present(Placement{{now.left, now.top}, Record().towardsStart});
 }
 
 MenuScene Form2::LayOut(DisplayList list, int dpi) {
@@ -37,19 +49,22 @@ MenuScene Form2::LayOut(DisplayList list, int dpi) {
     request.rotated = record.rotated;
     request.inactive = inactive_;
     request.dpi = dpi;
-    request.workArea = WorkAreaAt(OpeningPoint(record));
+    request.workArea = MonitorOfMenu(record, CurrentMonitors()).work;
     request.first = record.firstVisible;
     request.pictures = pictures_.Names();
     return BuildScene(std::move(request), fonts_);
 }
 
 void Form2::Present() {
+    Present(PlaceMenu(Record(), scene_, MonitorOfMenu(Record(), CurrentMonitors()).work));
+}
+
+void Form2::Present(const Placement& placement) {
     CascadeRec& record = Record();
     record.firstVisible = scene_.view().first;
     icons_.Reset(scene_.list.Count(), scene_.metrics().iconSize);
 
     ::SetWindowTextW(window_.get(), Win::Widen(scene_.title).c_str());
-    Placement placement = PlaceMenu(record, scene_, WorkAreaAt(OpeningPoint(record)));
     record.bounds = RectAt(placement.topLeft, scene_.layout.window);
     record.towardsStart = placement.towardsStart;
     Place();

@@ -4,6 +4,7 @@
 #include "prefs/startup_hotspots.h"
 #include "prefs/win/common_dialogs.h"
 #include "desktop/win/hotspot_windows.h"
+#include "menuwindow/win/screen_area.h"
 #include "prefs/application_picker.h"
 #include "prefs/win/form3.h"
 #include "win/text_convert.h"
@@ -45,7 +46,8 @@ constexpr RowDef kRows[] = {
     {HotspotField::Action, Kind::Choice},      {HotspotField::Target, Kind::Target},
     {HotspotField::Arguments, Kind::Text},     {HotspotField::StartFolder, Kind::Text},
     {HotspotField::FileTypes, Kind::Text},     {HotspotField::Caption, Kind::Text},
-    {HotspotField::MouseEvent, Kind::Choice},  {HotspotField::Application, Kind::Application},
+    {HotspotField::MouseEvent, Kind::Choice},  {HotspotField::Monitor, Kind::Choice},
+    {HotspotField::Application, Kind::Application},
     {HotspotField::X1, Kind::Text},            {HotspotField::Y1, Kind::Text},
     {HotspotField::X2, Kind::Text},            {HotspotField::Y2, Kind::Text},
     {HotspotField::OnMouse, Kind::Check},      {HotspotField::MenuLeft, Kind::Text},
@@ -115,7 +117,7 @@ HotspotsPage::HotspotsPage(HWND panel, RECT room, const DialogFont& font, Settin
             if (def.field == HotspotField::Action)
                 for (std::string_view name : Preferences::kActionNames)
                     AddChoice(row.control, name);
-            else
+            else if (def.field == HotspotField::MouseEvent)
                 for (std::string_view name : Preferences::kMouseEventNames)
                     AddChoice(row.control, name);
             break;
@@ -230,6 +232,13 @@ void HotspotsPage::ShowHotspot() {
         case HotspotField::MouseEvent:
             ::SendMessageW(row.control, CB_SETCURSEL, static_cast<WPARAM>(hotspot.MouseButton), 0);
             break;
+        case HotspotField::Monitor:
+            ::SendMessageW(row.control, CB_RESETCONTENT, 0, 0);
+            for (const std::string& name :
+                 Preferences::MonitorChoices(static_cast<int>(MenuWindow::CurrentMonitors().size()), hotspot.Monitor))
+                AddChoice(row.control, name);
+            ::SendMessageW(row.control, CB_SETCURSEL, static_cast<WPARAM>(std::max<int>(hotspot.Monitor, 0)), 0);
+            break;
         case HotspotField::HotKey: {
             const WORD modifier = hotspot.ShiftHotKey ? HOTKEYF_SHIFT : HOTKEYF_CONTROL;
             ::SendMessageW(row.control, HKM_SETHOTKEY, MAKEWORD(hotspot.Hotkey, modifier), 0);
@@ -307,14 +316,17 @@ void HotspotsPage::Field_Changed(Row& row, int code) {
     HotspotRec& hotspot = Selected();
     switch (row.field) {
     case HotspotField::Action:
-    case HotspotField::MouseEvent: {
+    case HotspotField::MouseEvent:
+    case HotspotField::Monitor: {
         if (code != CBN_SELCHANGE)
             return;
         const auto index = static_cast<int>(::SendMessageW(row.control, CB_GETCURSEL, 0, 0));
         if (row.field == HotspotField::Action)
             hotspot.Type = static_cast<std::uint8_t>(index);
-        else
+        else if (row.field == HotspotField::MouseEvent)
             hotspot.MouseButton = static_cast<std::int16_t>(index);
+        else
+            hotspot.Monitor = static_cast<std::int16_t>(index);
         ShowHotspot();
         break;
     }

@@ -115,6 +115,7 @@ std::string HotspotSettings(const std::vector<TestHotspot>& hotspots, const std:
         add("AlwaysOpen", spot.alwaysOpen ? "1" : "0");
         add("UseHotKey", spot.hotKey ? "1" : "0");
         add("Hotkey", std::to_string(spot.hotKey));
+        add("Monitor", std::to_string(spot.monitor));
     }
     text += "TitleColor=8400912\nTitleFontColor=57599\nTitleGradient=False\nTitleFlat=True\nTitleOverlap=False\n";
     text += Setting("TitleVSize", std::to_string(kPlainTitleHeight));

@@ -55,6 +55,7 @@ struct TestHotspot {
     int hotKey = 0; // with Ctrl; 0 for none
     int type = 1;   // 1 show a menu, 2 run a program, 3 run a command
     std::string target2; // Menupath2: the program's arguments, the command
+    int monitor = 0;     // where its bumps count: 0 any monitor, else that monitor's number
 };
 
 // Settings with the hotspots, without a tray icon, in a plain look: title 26 high,

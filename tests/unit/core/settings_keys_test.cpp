@@ -50,7 +50,7 @@ MenuFrameToBody:b:False SysTileWallpaper:t: HorzNoTitlebar:b:True HorzLockWidth:
 HorzButtonsOnly:b:False MenuOverlapMenus:b:False TitleOverlap:b:True TitleInactiveOverlap:b:True GenUseHotKey:b:True
 GenHotKey:s:123 GenShiftHotKey:b:False GenShowInTray:b:True GenDblClickDelay:s:12 GenShowExtensions:b:True
 GenShowHidden:b:True GenShowSystem:b:True GenShowTooltips:b:True GenHideDesktopIcons:b:False GenRightClick:s:1
-GenMiddleClick:s:3 GenDblClick:s:0 GenBumpDelay:s:5 GenSoundsOn:s:-1 GenAnimationOn:s:-1
+GenMiddleClick:s:3 GenDblClick:s:0 GenBumpDelay:s:5 GenQuietFullScreen:b:True GenSoundsOn:s:-1 GenAnimationOn:s:-1
 GenUnzipAlwaysOverwrite:b:False GenATXShutdown:b:False GenForceShutdown:b:False GenAutoRun:b:False TaskbarPos:s:2
 TaskbarXofset:s:0 TaskbarYofset:s:0 TaskbarTooltips:b:True TaskbarRunOnStartup:b:False SystrayPos:s:3
 SystrayXofset:s:0 SystrayYofset:s:0 SystrayStyle:s:0 SystrayAutoHide:b:False SystrayHideDelay:s:5

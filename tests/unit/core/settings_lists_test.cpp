@@ -56,7 +56,7 @@ TEST(HotSpotKeys, FollowNoOfHotSpotsWithEveryFieldInRecordOrder) {
         "x1",          "x2",        "y1",        "y2",          "App",        "GroupName",    "Menutop",
         "Menuleft",    "Menuname",  "Menupath1", "Menupath2",   "MenuType",   "FileTypeMask", "OnMouse",
         "MouseButton", "UseHotKey", "Hotkey",    "ShiftHotKey", "Theme",      "Inherit",      "SoundPath",
-        "AppPath",     "Type",      "StartPath", "AlwaysOpen",  "Horizontal", "ForceOnTop"};
+        "AppPath",     "Type",      "StartPath", "AlwaysOpen",  "Horizontal", "ForceOnTop", "Monitor"};
     std::vector<std::string> expected = {"NoOfHotSpots=1"};
     for (const char* index : {"0", "1"})
         for (const std::string& suffix : suffixes)

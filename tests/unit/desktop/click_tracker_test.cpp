@@ -8,8 +8,7 @@ using namespace Hotspots;
 
 namespace {
 
-constexpr int kWidth = 1024;
-constexpr int kHeight = 768;
+const MenuWindow::Monitor kScreen{{0, 0, 1024, 768}, {0, 0, 1024, 738}, 96, true};
 
 // Some ticks of one mouse state.
 struct Ticks {
@@ -31,7 +30,7 @@ Run Track(const std::vector<Ticks>& script, TrackerDelays delays = {12, 5}, bool
     for (const Ticks& ticks : script) {
         std::uintptr_t window = ticks.window;
         MouseSample sample{ticks.button == 'L', ticks.button == 'R', ticks.button == 'M', ticks.at,
-                           [window] { return window; }, kWidth, kHeight};
+                           [window] { return window; }, MenuWindow::Monitors(&kScreen, 1)};
         for (int i = 0; i < ticks.count; ++i) {
             if (TrackMouse(tracker, run.left, sample, delays) && !busy) {
                 run.taken.push_back(run.left.PendingClickCode);

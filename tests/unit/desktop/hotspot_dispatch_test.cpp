@@ -44,7 +44,7 @@ std::function<ClickedWindow()> On(const char* title, MenuWindow::Point origin = 
 
 std::optional<int> Chosen(const std::vector<HotspotRec>& hotSpots, std::int16_t code, MenuWindow::Point at,
                           const std::function<ClickedWindow()>& window) {
-    std::optional<Choice> choice = ChooseHotspot(hotSpots, code, at, window);
+    std::optional<Choice> choice = ChooseHotspot(hotSpots, code, at, 1, window);
     return choice ? std::optional<int>(choice->hotspot) : std::nullopt;
 }
 
@@ -131,7 +131,7 @@ TEST(ChooseHotspot, ClicksTakeTheFirstHotspotOfTheirWindowWhoseRectangleHoldsThe
     };
     for (const Case& c : cases)
         EXPECT_EQ(Chosen(hotSpots, c.code, c.at, c.window), c.expected) << c.what;
-    std::optional<Choice> choice = ChooseHotspot(hotSpots, kRightClick, {120, 140}, On("Notepad", {100, 100}));
+    std::optional<Choice> choice = ChooseHotspot(hotSpots, kRightClick, {120, 140}, 1, On("Notepad", {100, 100}));
     ASSERT_TRUE(choice);
     EXPECT_EQ(choice->origin, (MenuWindow::Point{100, 100}));
 }
