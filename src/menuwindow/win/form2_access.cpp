@@ -15,8 +15,8 @@ LRESULT Form2::Form_GetObject(WPARAM flags, LPARAM objectId) {
 }
 
 MenuAccess Form2::DescribeForAccess() const {
-    return DescribeMenu(scene_, selection_, {.hasKeyboard = ::GetForegroundWindow() == window_.get(),
-                                             .rolledUp = rolledUp_});
+    return DescribeMenu(scene_, selection_,
+                        {.hasKeyboard = ::GetForegroundWindow() == window_.get(), .rolledUp = rolledUp_});
 }
 
 // Posted, so that the reader's call returns before the menu acts (and maybe closes).

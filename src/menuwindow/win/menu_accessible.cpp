@@ -57,15 +57,24 @@ long StateBits(const AccessStates& states, AccessRole role) {
 
 std::optional<AccessDirection> DirectionOf(long direction) {
     switch (direction) {
-    case NAVDIR_FIRSTCHILD: return AccessDirection::First;
-    case NAVDIR_LASTCHILD: return AccessDirection::Last;
-    case NAVDIR_NEXT: return AccessDirection::Next;
-    case NAVDIR_PREVIOUS: return AccessDirection::Previous;
-    case NAVDIR_UP: return AccessDirection::Up;
-    case NAVDIR_DOWN: return AccessDirection::Down;
-    case NAVDIR_LEFT: return AccessDirection::Left;
-    case NAVDIR_RIGHT: return AccessDirection::Right;
-    default: return std::nullopt;
+    case NAVDIR_FIRSTCHILD:
+        return AccessDirection::First;
+    case NAVDIR_LASTCHILD:
+        return AccessDirection::Last;
+    case NAVDIR_NEXT:
+        return AccessDirection::Next;
+    case NAVDIR_PREVIOUS:
+        return AccessDirection::Previous;
+    case NAVDIR_UP:
+        return AccessDirection::Up;
+    case NAVDIR_DOWN:
+        return AccessDirection::Down;
+    case NAVDIR_LEFT:
+        return AccessDirection::Left;
+    case NAVDIR_RIGHT:
+        return AccessDirection::Right;
+    default:
+        return std::nullopt;
     }
 }
 
@@ -150,32 +159,45 @@ HRESULT MenuAccessible::About(const VARIANT& child, Answer answer) {
     return id ? answer(access, *id, ObjectOf(access, *id)) : E_INVALIDARG;
 }
 
-HRESULT MenuAccessible::get_accName(VARIANT child, BSTR* name) {
-    if (!name)
+// A text of a child, or S_FALSE with none when the child has none.
+HRESULT MenuAccessible::TextOf(const VARIANT& child, BSTR* out, std::string AccessObject::*text) {
+    if (!out)
         return E_POINTER;
-    *name = nullptr;
-    return About(child, [&](const MenuAccess&, int, const AccessObject& object) { return TextResult(object.name, name); });
+    *out = nullptr;
+    return About(child,
+                 [&](const MenuAccess&, int, const AccessObject& object) { return TextResult(object.*text, out); });
+}
+
+// A text no object of a menu has.
+HRESULT MenuAccessible::NoText(BSTR* out) const {
+    if (!out)
+        return E_POINTER;
+    *out = nullptr;
+    return source_ ? DISP_E_MEMBERNOTFOUND : RPC_E_DISCONNECTED;
+}
+
+HRESULT MenuAccessible::get_accName(VARIANT child, BSTR* name) {
+    return TextOf(child, name, &AccessObject::name);
+}
+
+HRESULT MenuAccessible::get_accKeyboardShortcut(VARIANT child, BSTR* shortcut) {
+    return TextOf(child, shortcut, &AccessObject::shortcut);
+}
+
+HRESULT MenuAccessible::get_accDefaultAction(VARIANT child, BSTR* action) {
+    return TextOf(child, action, &AccessObject::defaultAction);
 }
 
 HRESULT MenuAccessible::get_accValue(VARIANT, BSTR* value) {
-    if (!value)
-        return E_POINTER;
-    *value = nullptr;
-    return source_ ? DISP_E_MEMBERNOTFOUND : RPC_E_DISCONNECTED;
+    return NoText(value);
 }
 
 HRESULT MenuAccessible::get_accDescription(VARIANT, BSTR* description) {
-    if (!description)
-        return E_POINTER;
-    *description = nullptr;
-    return source_ ? DISP_E_MEMBERNOTFOUND : RPC_E_DISCONNECTED;
+    return NoText(description);
 }
 
 HRESULT MenuAccessible::get_accHelp(VARIANT, BSTR* help) {
-    if (!help)
-        return E_POINTER;
-    *help = nullptr;
-    return source_ ? DISP_E_MEMBERNOTFOUND : RPC_E_DISCONNECTED;
+    return NoText(help);
 }
 
 HRESULT MenuAccessible::get_accHelpTopic(BSTR* file, VARIANT, long* topic) {
@@ -201,24 +223,6 @@ HRESULT MenuAccessible::get_accState(VARIANT child, VARIANT* state) {
     state->vt = VT_EMPTY;
     return About(child, [&](const MenuAccess&, int, const AccessObject& object) {
         return LongResult(StateBits(object.states, object.role), state);
-    });
-}
-
-HRESULT MenuAccessible::get_accKeyboardShortcut(VARIANT child, BSTR* shortcut) {
-    if (!shortcut)
-        return E_POINTER;
-    *shortcut = nullptr;
-    return About(child, [&](const MenuAccess&, int, const AccessObject& object) {
-        return TextResult(object.shortcut, shortcut);
-    });
-}
-
-HRESULT MenuAccessible::get_accDefaultAction(VARIANT child, BSTR* action) {
-    if (!action)
-        return E_POINTER;
-    *action = nullptr;
-    return About(child, [&](const MenuAccess&, int, const AccessObject& object) {
-        return TextResult(object.defaultAction, action);
     });
 }
 

@@ -10,6 +10,8 @@
 
 #include <oleacc.h>
 
+#include <string>
+
 class MenuAccessSource {
 public:
     virtual MenuWindow::MenuAccess DescribeForAccess() const = 0;
@@ -39,8 +41,7 @@ public:
     HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) override;
     HRESULT STDMETHODCALLTYPE GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     HRESULT STDMETHODCALLTYPE GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
-                                     UINT*) override {
+    HRESULT STDMETHODCALLTYPE Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override {
         return E_NOTIMPL;
     }
 
@@ -70,6 +71,8 @@ private:
     ~MenuAccessible() = default;
     template <class Answer>
     HRESULT About(const VARIANT& child, Answer answer);
+    HRESULT TextOf(const VARIANT& child, BSTR* out, std::string MenuWindow::AccessObject::*text);
+    HRESULT NoText(BSTR* out) const;
 
     MenuAccessSource* source_; // none once the window is gone
     ULONG references_ = 1;

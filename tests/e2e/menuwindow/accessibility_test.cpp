@@ -9,6 +9,7 @@
 #include "harness/tarvex.h"
 #include "win/com_apartment.h"
 #include "win/com_ptr.h"
+#include "win/handles.h"
 #include "win/text_convert.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +17,7 @@
 #include <oleacc.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -51,25 +53,21 @@ long FocusOf(IAccessible* menu) {
     return menu->get_accFocus(&focus) == S_OK && focus.vt == VT_I4 ? focus.lVal : -1;
 }
 
-// The events menu windows raised, as an out-of-context hook sees them: they come to
-// this thread while it waits.
-struct MenuEvent {
-    DWORD event;
-    LONG child;
-    bool operator==(const MenuEvent&) const = default;
-};
-std::vector<MenuEvent> menuEvents;
+// The events menu windows raised (event, child), as an out-of-context hook sees them:
+// they come to this thread while it waits.
+std::vector<std::pair<DWORD, LONG>> menuEvents;
 
 void CALLBACK OnMenuEvent(HWINEVENTHOOK, DWORD event, HWND hwnd, LONG object, LONG child, DWORD, DWORD) {
-    const bool watched = event == EVENT_SYSTEM_MENUPOPUPSTART || event == EVENT_SYSTEM_MENUPOPUPEND ||
-                         event == EVENT_OBJECT_FOCUS;
+    const bool watched =
+        event == EVENT_SYSTEM_MENUPOPUPSTART || event == EVENT_SYSTEM_MENUPOPUPEND || event == EVENT_OBJECT_FOCUS;
     if (watched && object == OBJID_CLIENT && DescribeWindow(hwnd).className == kMenuClass)
-        menuEvents.push_back({event, child});
+        menuEvents.emplace_back(event, child);
 }
 
-std::ostream& operator<<(std::ostream& out, const MenuEvent& event) {
-    return out << "{event " << event.event << ", child " << event.child << "}";
+void Unhook(HWINEVENTHOOK hook) {
+    ::UnhookWinEvent(hook);
 }
+using UniqueEventHook = Win::UniqueHandle<HWINEVENTHOOK, Unhook>;
 
 } // namespace
 
@@ -84,19 +82,17 @@ TEST(MenuAccessibility, AScreenReaderReadsTheItemsFollowsTheKeysAndChoosesFromAn
     hotspot.top = 200;
     hotspot.hotKey = VK_F5;
     folder.WriteSettings(HotspotSettings({hotspot}, "SelBar=True\n"));
-    TestItem editor = NotepadItems({"Editor"})[0];
-    editor.hotkey = "e";
     folder.WriteMenus(MenuFileText({{"Programs",
-                                     {editor, Item("Date & Time", 1, "DateTime"), Item("Tools", 3, "Tools"),
-                                      WritesAFile("Write", work.File("chosen.txt"))}},
+                                     {NotepadItems({"Editor"})[0], Item("Date & Time", 1, "DateTime"),
+                                      Item("Tools", 3, "Tools"), WritesAFile("Write", work.File("chosen.txt"))}},
                                     {"Tools", NotepadItems({"Calculator"})}}));
     Tarvex tarvex;
     ASSERT_TRUE(tarvex.Start(folder));
     ASSERT_TRUE(tarvex.WaitUntilReady());
 
     menuEvents.clear();
-    HWINEVENTHOOK hook = ::SetWinEventHook(EVENT_SYSTEM_MENUPOPUPSTART, EVENT_OBJECT_FOCUS, nullptr, OnMenuEvent,
-                                           tarvex.processId(), 0, WINEVENT_OUTOFCONTEXT);
+    UniqueEventHook hook(::SetWinEventHook(EVENT_SYSTEM_MENUPOPUPSTART, EVENT_OBJECT_FOCUS, nullptr, OnMenuEvent,
+                                           tarvex.processId(), 0, WINEVENT_OUTOFCONTEXT));
     ASSERT_TRUE(hook);
     TapKeys(VK_CONTROL, VK_F5, 60ms);
     std::optional<WindowInfo> shown = WaitForMenuWindow(tarvex.processId());
@@ -131,11 +127,6 @@ TEST(MenuAccessibility, AScreenReaderReadsTheItemsFollowsTheKeysAndChoosesFromAn
         ASSERT_EQ(menu->accHitTest(middle.x, middle.y, &hit), S_OK);
         EXPECT_EQ(hit.vt == VT_I4 ? hit.lVal : -1, id);
     }
-    BSTR shortcut = nullptr;
-    ASSERT_EQ(menu->get_accKeyboardShortcut(Child(1), &shortcut), S_OK);
-    EXPECT_EQ(Win::Narrow(shortcut), "Ctrl+E");
-    ::SysFreeString(shortcut);
-
     EXPECT_EQ(FocusOf(menu.get()), CHILDID_SELF) << "no item selected yet: the menu has the focus";
     PressKey(VK_DOWN);
     EXPECT_TRUE(WaitUntil([&] { return FocusOf(menu.get()) == 1; }, 10s)) << "Down focuses the first item";
@@ -152,12 +143,11 @@ TEST(MenuAccessibility, AScreenReaderReadsTheItemsFollowsTheKeysAndChoosesFromAn
     EXPECT_TRUE(FAILED(menu->get_accChildCount(&count))) << "the object outlives its window and says so";
 
     // The focus moved to the chosen item before the menu closed.
-    const std::vector<MenuEvent> announced = {{EVENT_SYSTEM_MENUPOPUPSTART, CHILDID_SELF},
-                                              {EVENT_OBJECT_FOCUS, 1},
-                                              {EVENT_OBJECT_FOCUS, 2},
-                                              {EVENT_OBJECT_FOCUS, 4},
-                                              {EVENT_SYSTEM_MENUPOPUPEND, CHILDID_SELF}};
+    const std::vector<std::pair<DWORD, LONG>> announced = {{EVENT_SYSTEM_MENUPOPUPSTART, CHILDID_SELF},
+                                                           {EVENT_OBJECT_FOCUS, 1},
+                                                           {EVENT_OBJECT_FOCUS, 2},
+                                                           {EVENT_OBJECT_FOCUS, 4},
+                                                           {EVENT_SYSTEM_MENUPOPUPEND, CHILDID_SELF}};
     EXPECT_TRUE(WaitUntil([&] { return menuEvents.size() >= announced.size(); }, 10s));
     EXPECT_EQ(menuEvents, announced);
-    ::UnhookWinEvent(hook);
 }

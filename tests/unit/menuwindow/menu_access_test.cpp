@@ -1,5 +1,4 @@
 #include "menuwindow/interaction/menu_access.h"
-#include "menuwindow/interaction/menu_interaction.h"
 
 #include "scene_support.h"
 
@@ -25,7 +24,7 @@ MenuScene SceneOf(std::vector<DisplayEntry> entries, Rect workArea = {0, 0, 1024
 
 } // namespace
 
-TEST(MenuAccessibility, EachKindOfItemHasItsRoleStatesActionAndShortcut) {
+TEST(MenuAccessibility, EachKindOfItemHasItsRoleStatesActionAndShortcutAndTheEmptyEntryNone) {
     struct Case {
         DisplayEntry entry;
         bool hasPopup;
@@ -62,15 +61,13 @@ TEST(MenuAccessibility, EachKindOfItemHasItsRoleStatesActionAndShortcut) {
     DisplayList one;
     one.entries = {cases[0].entry};
     EXPECT_EQ(DescribeMenu(Scene(noHotkeys, one), {}, {}).items[0].shortcut, "") << "hot keys switched off";
-}
 
-TEST(MenuAccessibility, TheEmptyEntryOfAnEmptyListIsUnavailable) {
-    DisplayList list = Items({"(Empty)"});
-    list.empty = true;
-    const AccessObject item = DescribeMenu(Scene(PlainLook(), list), {}, {}).items.at(0);
-    EXPECT_TRUE(item.states.unavailable);
-    EXPECT_FALSE(item.states.focusable);
-    EXPECT_EQ(item.defaultAction, "");
+    DisplayList empty = Items({"(Empty)"});
+    empty.empty = true;
+    const AccessObject nothing = DescribeMenu(Scene(PlainLook(), empty), {}, {}).items.at(0);
+    EXPECT_TRUE(nothing.states.unavailable) << "the entry of an empty folder or task list";
+    EXPECT_FALSE(nothing.states.focusable);
+    EXPECT_EQ(nothing.defaultAction, "");
 }
 
 TEST(MenuAccessibility, TheFocusFollowsTheSelectionBarOfTheWindowWithTheKeyboard) {
@@ -129,24 +126,12 @@ TEST(MenuAccessibility, NavigationStepsAlongTheMenusOwnDirectionWithoutWrapping)
         AccessDirection direction;
         int to;
     } cases[] = {
-        {false, 0, First, 1}, {false, 0, Last, 3},  {false, 2, First, 0}, {false, 0, Next, 0},
-        {false, 1, Next, 2},  {false, 3, Next, 0},  {false, 1, Previous, 0}, {false, 2, Down, 3},
-        {false, 2, Up, 1},    {false, 2, Right, 0}, {true, 2, Right, 3},  {true, 2, Left, 1},
-        {true, 2, Down, 0},   {false, 4, Next, 0},
+        {false, 0, First, 1}, {false, 0, Last, 3},     {false, 2, First, 0}, {false, 0, Next, 0}, {false, 1, Next, 2},
+        {false, 3, Next, 0},  {false, 1, Previous, 0}, {false, 2, Down, 3},  {false, 2, Up, 1},   {false, 2, Right, 0},
+        {true, 2, Right, 3},  {true, 2, Left, 1},      {true, 2, Down, 0},   {false, 4, Next, 0},
     };
     for (const Case& c : cases)
         EXPECT_EQ(Navigate(3, c.horizontal, c.from, c.direction), c.to)
             << c.from << " direction " << static_cast<int>(c.direction) << (c.horizontal ? " across" : "");
     EXPECT_EQ(Navigate(0, false, 0, First), 0) << "an empty menu";
-}
-
-TEST(MenuAccessibility, TheDefaultActionChoosesAsAClickWould) {
-    MenuScene scene = SceneOf({Entry("Notepad", kItemFilename), Entry("Tools", kItemMenuName)});
-    MenuInteraction interaction;
-    Effects chosen = interaction.ChooseItem(scene, 1);
-    EXPECT_EQ(chosen.action, MenuAction::Choose);
-    EXPECT_EQ(chosen.item, 1);
-    EXPECT_EQ(interaction.ChooseItem(scene, 2).action, MenuAction::OpenSubMenu);
-    EXPECT_EQ(interaction.state().bar.selected, 2) << "the bar goes to the item";
-    EXPECT_EQ(interaction.ChooseItem(scene, 3), Effects{}) << "out of range";
 }
