@@ -21,7 +21,6 @@ struct AccessStates {
     bool hasPopup = false;    // opens a sub-menu
     bool unavailable = false; // nothing to choose: the "(Empty)" of an empty folder or task list
     bool offscreen = false;   // scrolled out of view, behind a scroll button, or rolled up
-    bool operator==(const AccessStates&) const = default;
 };
 
 struct AccessObject {

@@ -35,8 +35,6 @@
 class Form2 : private MenuAccessSource {
 public:
     static constexpr const wchar_t* kClassName = L"Tarvex2Menu";
-    // Posted to the window with a screen reader's request: the item, and whether to choose it.
-    static constexpr UINT kAccessActionMessage = WM_APP + 2;
 
     // The window of the cascade record with identifier id; settings and menus are the
     // program's, read when the window takes its settings and builds its list. Theme
@@ -137,6 +135,8 @@ private:
     void CloseCascade();
     void PlayEventSound(MenuWindow::SoundEvent event);
     void Form_PrintClient(HDC dc);
+    // Posted to the window with a screen reader's request: the item, and whether to choose it.
+    static constexpr UINT kAccessActionMessage = WM_APP + 2;
     // A screen reader asks for the window's accessible object.
     LRESULT Form_GetObject(WPARAM flags, LPARAM objectId);
     MenuWindow::MenuAccess DescribeForAccess() const override;
