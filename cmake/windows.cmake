@@ -15,8 +15,10 @@ target_include_directories(tarvex_minizip INTERFACE ${MINIZIP_INCLUDE_DIR})
 target_link_libraries(tarvex_minizip INTERFACE ${MINIZIP_LIBRARY} ZLIB::ZLIB)
 
 set(tarvex_windows_definitions UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601 WINVER=0x0601)
+# uuid comes before oleacc: otherwise IID_IAccessible resolves to oleacc's import thunk
+# and every query for it fails.
 set(tarvex_windows_libraries
-    gdiplus comctl32 comdlg32 shell32 shlwapi ole32 oleaut32 uuid winmm psapi advapi32 gdi32 user32 kernel32)
+    gdiplus comctl32 comdlg32 shell32 shlwapi ole32 oleaut32 uuid oleacc winmm psapi advapi32 gdi32 user32 kernel32)
 
 # One static runtime in every program: nothing to ship beside the exe.
 add_link_options(-static -static-libgcc -static-libstdc++)

@@ -459,8 +459,11 @@ Effects MenuInteraction::KeyDown(const MenuScene& scene, Key key, char32_t chara
 Effects MenuInteraction::KeyUp(const MenuScene& scene, char32_t character, Modifiers modifiers) {
     if (scene.look.MenuHotKeys == 0 || character == U' ' || character == 0 || !modifiers.ctrl)
         return {};
-    int item = ItemByHotkey(scene.list, character);
-    if (item == 0)
+    return ChooseItem(scene, ItemByHotkey(scene.list, character));
+}
+
+Effects MenuInteraction::ChooseItem(const MenuScene& scene, int item) {
+    if (item < 1 || item > scene.list.Count())
         return {};
     Effects effects = MakeButtonVisible(scene, item);
     Merge(effects, PressItem(scene, item, MouseButton::Left, {}));

@@ -112,6 +112,9 @@ public:
                     std::uint32_t time = 0);
     // A key let go: Ctrl with an item's hot key chooses that item.
     Effects KeyUp(const MenuScene& scene, char32_t character, Modifiers modifiers);
+    // Selects an item, shows it and chooses it as a left press and release on it would:
+    // a hot key, or a screen reader's default action. Nothing for an item out of range.
+    Effects ChooseItem(const MenuScene& scene, int item);
 
     // This window's sub-menu for an item opened; the sub-menu closed (unloaded, closed by
     // the keyboard or torn off), which gives the item it was open for, to be redrawn.

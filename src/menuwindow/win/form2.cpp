@@ -59,6 +59,7 @@ void Form2::Show() {
                                                                    Record().horizontal, scene_.layout.window);
     MenuWindow::CoverForRipple(hwnd, plan);
     ::ShowWindow(hwnd, SW_SHOW);
+    RaiseAccessEvent(EVENT_SYSTEM_MENUPOPUPSTART, CHILDID_SELF);
     ::SetForegroundWindow(hwnd);
     ::UpdateWindow(hwnd);
     PlayOpenMenuSound();
@@ -108,7 +109,14 @@ UINT_PTR Form2::TimerId(MenuWindow::MenuTimer timer) {
 
 // A sub-menu tells its parent it went, unless the whole cascade is going.
 void Form2::Form_Unload() {
+    unloading_ = true;
+    if (accessible_) {
+        accessible_->Disconnect();
+        accessible_.reset();
+    }
     if (window_) {
+        if (::IsWindowVisible(window_.get()))
+            RaiseAccessEvent(EVENT_SYSTEM_MENUPOPUPEND, CHILDID_SELF);
         for (MenuWindow::MenuTimer timer : kTimers)
             ::KillTimer(window_.get(), TimerId(timer));
         if (::GetCapture() == window_.get())
@@ -206,6 +214,11 @@ LRESULT Form2::HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lPar
         return 0;
     case WM_DPICHANGED:
         Form_DpiChanged(HIWORD(wParam));
+        return 0;
+    case WM_GETOBJECT:
+        return Form_GetObject(wParam, lParam);
+    case kAccessActionMessage:
+        Form_AccessAction(static_cast<int>(wParam), lParam != 0);
         return 0;
     case kCloseCascadeMessage:
         openMenus_.CloseAll(); // this object is gone afterwards

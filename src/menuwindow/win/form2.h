@@ -17,9 +17,11 @@
 #include "menuwindow/paint/repaint.h"
 #include "menuwindow/win/back_buffer.h"
 #include "menuwindow/win/item_icons.h"
+#include "menuwindow/win/menu_accessible.h"
 #include "menuwindow/win/menu_fonts.h"
 #include "menuwindow/win/open_menus.h"
 #include "menuwindow/win/theme_pictures.h"
+#include "win/com_ptr.h"
 #include "win/form_window.h"
 #include "win/handles.h"
 
@@ -30,7 +32,7 @@
 #include <string>
 #include <vector>
 
-class Form2 {
+class Form2 : private MenuAccessSource {
 public:
     static constexpr const wchar_t* kClassName = L"Tarvex2Menu";
 
@@ -133,6 +135,15 @@ private:
     void CloseCascade();
     void PlayEventSound(MenuWindow::SoundEvent event);
     void Form_PrintClient(HDC dc);
+    // Posted to the window with a screen reader's request: the item, and whether to choose it.
+    static constexpr UINT kAccessActionMessage = WM_APP + 2;
+    // A screen reader asks for the window's accessible object.
+    LRESULT Form_GetObject(WPARAM flags, LPARAM objectId);
+    MenuWindow::MenuAccess DescribeForAccess() const override;
+    HWND AccessWindow() const override { return window_.get(); }
+    void ActForAccess(int item, bool choose) override;
+    void Form_AccessAction(int item, bool choose);
+    void RaiseAccessEvent(DWORD event, LONG child);
     void Form_Unload();
     void PlayOpenMenuSound();
     void Animate(const MenuWindow::AnimationPlan& plan);
@@ -178,6 +189,8 @@ private:
     bool rolledUp_ = false;
     int buttonsDrawn_ = 0;
     int animationFramesShown_ = 0;
+    Win::ComPtr<MenuAccessible> accessible_; // made when a reader first asks
+    bool unloading_ = false; // from then on a reader gets the system's plain object, never ours
     // Expires with the object: code that serves the queue checks it before touching members.
     std::shared_ptr<bool> lifetime_ = std::make_shared<bool>(true);
     // Declared last, so it goes first: the window's last messages still find the whole object.

@@ -90,6 +90,7 @@ void Form2::tmrUpdateTaskList_Timer() {
         Apply(interaction_.ClearBar());
         icons_.Clear();
         Rebuild(std::move(now));
+        RaiseAccessEvent(EVENT_OBJECT_REORDER, CHILDID_SELF);
         return;
     }
     MenuScene next = LayOut(std::move(now), scene_.dpi);
@@ -97,12 +98,13 @@ void Form2::tmrUpdateTaskList_Timer() {
     scene_ = std::move(next);
     for (int item : change.items)
         icons_.Forget(item);
-    if (!sameSize) {
+    if (!sameSize)
         Present();
-        return;
+    for (int item : change.items) {
+        if (sameSize)
+            ForceRedrawButton(item);
+        RaiseAccessEvent(EVENT_OBJECT_NAMECHANGE, item);
     }
-    for (int item : change.items)
-        ForceRedrawButton(item);
 }
 
 void Form2::Place() {
@@ -149,9 +151,12 @@ void Form2::RedrawButton(int item) {
 
 void Form2::SetSelection(const SelectionState& selection) {
     std::vector<int> changed = ButtonsToRepaint(selection_, selection, look_.SelBar, scene_.view());
+    int focused = FocusEventFor(selection_, selection);
     selection_ = selection;
     for (int item : changed)
         DrawButton(item, StateOf(item, selection_, look_.SelBar));
+    if (focused != 0)
+        RaiseAccessEvent(EVENT_OBJECT_FOCUS, focused);
 }
 
 void Form2::DrawScrollButton() {

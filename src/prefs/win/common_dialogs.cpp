@@ -1,5 +1,6 @@
 #include "prefs/win/common_dialogs.h"
 
+#include "win/com_ptr.h"
 #include "win/handles.h"
 #include "win/text_convert.h"
 
@@ -13,25 +14,6 @@ namespace PrefsWin {
 
 namespace {
 
-// Releases a COM interface when it goes.
-template <class Interface>
-class ComPtr {
-public:
-    ComPtr() = default;
-    ComPtr(const ComPtr&) = delete;
-    ComPtr& operator=(const ComPtr&) = delete;
-    ~ComPtr() {
-        if (pointer_)
-            pointer_->Release();
-    }
-    Interface* operator->() const { return pointer_; }
-    Interface** put() { return &pointer_; }
-    explicit operator bool() const { return pointer_ != nullptr; }
-
-private:
-    Interface* pointer_ = nullptr;
-};
-
 // Frees a string the shell allocated.
 struct ShellString {
     PWSTR text = nullptr;
@@ -43,7 +25,7 @@ struct ShellString {
 
 std::optional<std::string> RunFileDialog(HWND owner, std::string_view current, FILEOPENDIALOGOPTIONS options,
                                          const COMDLG_FILTERSPEC* filter) {
-    ComPtr<IFileOpenDialog> dialog;
+    Win::ComPtr<IFileOpenDialog> dialog;
     if (FAILED(::CoCreateInstance(CLSID_FileOpenDialog, nullptr, CLSCTX_INPROC_SERVER, IID_IFileOpenDialog,
                                   reinterpret_cast<void**>(dialog.put()))))
         return std::nullopt;
@@ -53,7 +35,7 @@ std::optional<std::string> RunFileDialog(HWND owner, std::string_view current, F
     if (filter)
         dialog->SetFileTypes(1, filter);
     if (!current.empty()) {
-        ComPtr<IShellItem> start;
+        Win::ComPtr<IShellItem> start;
         std::wstring path = Win::Widen(current);
         if (!(options & FOS_PICKFOLDERS)) {
             if (std::size_t slash = path.find_last_of(L'\\'); slash != std::wstring::npos) {
@@ -67,7 +49,7 @@ std::optional<std::string> RunFileDialog(HWND owner, std::string_view current, F
     }
     if (FAILED(dialog->Show(owner)))
         return std::nullopt;
-    ComPtr<IShellItem> result;
+    Win::ComPtr<IShellItem> result;
     ShellString path;
     if (FAILED(dialog->GetResult(result.put())) || FAILED(result->GetDisplayName(SIGDN_FILESYSPATH, &path.text)))
         return std::nullopt;
