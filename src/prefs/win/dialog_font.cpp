@@ -2,19 +2,34 @@
 
 #include "win/text_convert.h"
 
+#include <commctrl.h>
+
+#include <string_view>
+
 namespace PrefsWin {
 
-DialogFont::DialogFont() {
+namespace {
+
+int SystemDpi() {
+    Win::WindowDc screen(nullptr);
+    return ::GetDeviceCaps(screen.get(), LOGPIXELSY);
+}
+
+} // namespace
+
+DialogFont::DialogFont() : DialogFont(SystemDpi()) {}
+
+DialogFont::DialogFont(int dpi) : dpi_(dpi) {
     NONCLIENTMETRICSW metrics{};
     metrics.cbSize = sizeof metrics;
     ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
     LOGFONTW face = metrics.lfMessageFont;
+    face.lfHeight = ::MulDiv(face.lfHeight, dpi, SystemDpi());
     font_.reset(::CreateFontIndirectW(&face));
     face.lfWeight = FW_BOLD;
     bold_.reset(::CreateFontIndirectW(&face));
 
     Win::WindowDc screen(nullptr);
-    dpi_ = ::GetDeviceCaps(screen.get(), LOGPIXELSY);
     Win::SelectGuard select(screen.get(), font_.get());
     TEXTMETRICW text{};
     ::GetTextMetricsW(screen.get(), &text);
@@ -52,6 +67,45 @@ BOOL CALLBACK SetFontOfChild(HWND child, LPARAM font) {
 }
 
 } // namespace
+
+namespace {
+
+struct Scaling {
+    int from;
+    int to;
+};
+
+bool IsClass(HWND window, std::wstring_view name) {
+    wchar_t found[32]{};
+    ::GetClassNameW(window, found, 32);
+    return name == found;
+}
+
+BOOL CALLBACK ScaleChild(HWND child, LPARAM scalingPointer) {
+    const Scaling& scaling = *reinterpret_cast<const Scaling*>(scalingPointer);
+    HWND parent = ::GetParent(child);
+    // A combo box places its own parts, and a menu shown as a sample lays itself out.
+    if (IsClass(parent, WC_COMBOBOXW) || IsClass(child, L"Tarvex2Menu"))
+        return TRUE;
+    RECT rect{};
+    ::GetWindowRect(child, &rect);
+    if (IsClass(child, WC_COMBOBOXW))
+        ::SendMessageW(child, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&rect));
+    ::MapWindowPoints(nullptr, parent, reinterpret_cast<POINT*>(&rect), 2);
+    auto scale = [&](LONG value) { return ::MulDiv(value, scaling.to, scaling.from); };
+    ::SetWindowPos(child, nullptr, scale(rect.left), scale(rect.top), scale(rect.right - rect.left),
+                   scale(rect.bottom - rect.top), SWP_NOZORDER | SWP_NOACTIVATE);
+    return TRUE;
+}
+
+} // namespace
+
+void ScaleChildren(HWND parent, int fromDpi, int toDpi) {
+    if (fromDpi <= 0 || toDpi <= 0)
+        return;
+    Scaling scaling{fromDpi, toDpi};
+    ::EnumChildWindows(parent, ScaleChild, reinterpret_cast<LPARAM>(&scaling));
+}
 
 void SetFontOfChildren(HWND parent, HFONT font) {
     ::EnumChildWindows(parent, SetFontOfChild, reinterpret_cast<LPARAM>(font));

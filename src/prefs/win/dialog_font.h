@@ -14,7 +14,10 @@ namespace PrefsWin {
 
 class DialogFont {
 public:
+    // At the system's DPI, or at another (a monitor of another scaling): the system's
+    // message font is scaled to it.
     DialogFont();
+    explicit DialogFont(int dpi);
     HFONT get() const { return font_.get(); }
     HFONT bold() const { return bold_.get(); }
     int X(int dlu) const { return ::MulDiv(dlu, baseX_, 4); }
@@ -29,6 +32,10 @@ private:
     int baseY_ = 13;
     int dpi_ = 96;
 };
+
+// Moves and sizes every control in a window (and in its panels) by the change of DPI, as
+// places in dialog units scale; a combo box keeps its list as tall as it was in lines.
+void ScaleChildren(HWND parent, int fromDpi, int toDpi);
 
 // A visible child control of a window at a place in the window's client pixels.
 HWND MakeChild(HWND parent, const wchar_t* className, const wchar_t* text, DWORD style, const RECT& rect, int id = 0);

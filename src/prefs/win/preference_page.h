@@ -38,6 +38,10 @@ public:
     bool Create(HWND parent, std::span<const Preferences::GroupRoom> rooms = {});
     // Places the panel; it scrolls when its controls are taller than the room.
     void Place(const RECT& area);
+    // Before the controls are scaled to another DPI: the page goes back to its top, and
+    // its height is taken anew from the font afterwards.
+    void ScrollToTop() { ScrollTo(0); }
+    void FontChanged() { contentHeight_ = font_.Y(layout_.height); }
     // Shows the working copy's values again (after a revert, or a font dialog that set several keys).
     void Refresh();
     // Scrolls a control of the page into view, when it is one.

@@ -207,6 +207,36 @@ void PreferencesWindow::Form_Size() {
     UpdatePreview();
 }
 
+// Moved onto a monitor of another scaling: every control keeps its place in dialog units,
+// so each is scaled by the change and takes the font made for the new DPI. Without the
+// rectangle the system suggests, the window grows or shrinks from its top-left corner.
+void PreferencesWindow::Form_DpiChanged(int dpi, const RECT* suggested) {
+    const int from = font_.dpi();
+    if (dpi <= 0 || dpi == from)
+        return;
+    for (auto& page : pages_)
+        page->ScrollToTop();
+    DialogFont next(dpi);
+    ScaleChildren(window_.get(), from, dpi);
+    SetFontOfChildren(window_.get(), next.get());
+    ::SendMessageW(heading_, WM_SETFONT, reinterpret_cast<WPARAM>(next.bold()), FALSE);
+    font_ = std::move(next); // the controls let the old fonts go first
+    for (auto& page : pages_)
+        page->FontChanged();
+    RECT target{};
+    if (suggested) {
+        target = *suggested;
+    } else {
+        ::GetWindowRect(window_.get(), &target);
+        target.right = target.left + ::MulDiv(target.right - target.left, dpi, from);
+        target.bottom = target.top + ::MulDiv(target.bottom - target.top, dpi, from);
+    }
+    ::SetWindowPos(window_.get(), nullptr, target.left, target.top, target.right - target.left,
+                   target.bottom - target.top, SWP_NOZORDER | SWP_NOACTIVATE);
+    Form_Size();
+    ::RedrawWindow(window_.get(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN);
+}
+
 void PreferencesWindow::ShowPage(int index) {
     if (index < 0 || index >= static_cast<int>(pages_.size()))
         return;
@@ -353,6 +383,9 @@ LRESULT PreferencesWindow::HandleMessage(HWND hwnd, UINT message, WPARAM wParam,
     case WM_SIZE:
         if (wParam != SIZE_MINIMIZED && !pages_.empty())
             Form_Size();
+        return 0;
+    case WM_DPICHANGED:
+        Form_DpiChanged(HIWORD(wParam), reinterpret_cast<const RECT*>(lParam));
         return 0;
     case WM_CLOSE:
         cmdCancel_Click();

@@ -60,6 +60,7 @@ private:
     LRESULT HandleMessage(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam);
 
     HWND MakeControl(const wchar_t* className, const wchar_t* text, DWORD style, int id);
+    void Form_DpiChanged(int dpi, const RECT* suggested);
     void CreatePages();
     void MakeMenuEditor(PreferencePage& page);
     void Form_Size();

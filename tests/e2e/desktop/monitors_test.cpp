@@ -70,7 +70,7 @@ int ScreenDpi() {
 } // namespace
 
 // Run once in each of three prefixes, at 96, 144 and 192 dots per inch.
-TEST_F(Monitors, AMenuIsSizedForTheDpiOfItsScreen) {
+TEST_F(Monitors, AMenuIsSizedForTheDpiOfItsScreenAndOfTheOneItIsMovedTo) {
     ASSERT_TRUE(folder.ready());
     folder.WriteSettings(StartupMenuSettings("Programs", 100, 80));
     folder.WriteMenus(MenuFileText(kMenus));
@@ -83,6 +83,14 @@ TEST_F(Monitors, AMenuIsSizedForTheDpiOfItsScreen) {
     EXPECT_EQ(menu->rect.bottom - menu->rect.top, height) << "at " << dpi << " DPI";
     EXPECT_EQ(menu->rect.left, 100) << "places stay in pixels";
     EXPECT_TRUE(SaveNamedScreenshot("menu-at-" + std::to_string(dpi) + "-dpi"));
+
+    // Dragged onto a monitor of half as many dots per inch again, it lays itself out anew
+    // where it stands.
+    const int to = dpi * 3 / 2;
+    const int grown = Dpi::Scale(kPlainTitleHeight, to) + 3 * Dpi::Scale(kPlainButtonHeight, to);
+    ::PostMessageW(menu->hwnd, WM_DPICHANGED, MAKEWPARAM(to, to), 0);
+    EXPECT_TRUE(WaitUntil([&] { return DescribeWindow(menu->hwnd).rect.bottom - menu->rect.top == grown; }, 10s));
+    EXPECT_EQ(DescribeWindow(menu->hwnd).rect.left, 100);
 }
 
 TEST_F(Monitors, ACornerHotspotOfAnotherMonitorLeavesThisMonitorsCornerAlone) {

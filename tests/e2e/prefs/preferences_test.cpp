@@ -245,6 +245,39 @@ TEST_F(Preferences, EveryPageFitsItsWindow) {
     EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
 }
 
+// As a move onto a monitor of a quarter fewer dots per inch (a window may not grow past
+// the screen under Wine): the window, its controls and their font shrink by a quarter,
+// and the page's controls still fit inside it.
+TEST_F(Preferences, ADpiChangeScalesTheWindowItsControlsAndTheirFont) {
+    HWND window = Open();
+    ASSERT_TRUE(window);
+    ASSERT_TRUE(ShowPreferencePage(window, "Hotspots"));
+    const RECT before = DescribeWindow(window).rect;
+    std::optional<WindowInfo> ok = VisibleControl(window, "Button", "OK");
+    ASSERT_TRUE(ok);
+    const int okHeight = ok->rect.bottom - ok->rect.top;
+    HDC screen = ::GetDC(nullptr);
+    const int dpi = ::GetDeviceCaps(screen, LOGPIXELSY);
+    ::ReleaseDC(nullptr, screen);
+    const int to = dpi * 3 / 4;
+
+    ::PostMessageW(window, WM_DPICHANGED, MAKEWPARAM(to, to), 0);
+    ASSERT_TRUE(WaitUntil([&] { return DescribeWindow(window).rect.right != before.right; }, 10s));
+    ASSERT_TRUE(tarvex.WaitUntilIdle());
+    const RECT after = DescribeWindow(window).rect;
+    EXPECT_EQ(after.left, before.left);
+    EXPECT_EQ(after.right - after.left, ::MulDiv(before.right - before.left, to, dpi));
+    ok = VisibleControl(window, "Button", "OK");
+    ASSERT_TRUE(ok);
+    EXPECT_NEAR(ok->rect.bottom - ok->rect.top, okHeight * 3 / 4, okHeight / 8) << "the buttons follow the font";
+    std::optional<WindowInfo> panel = VisibleControl(window, "Tarvex2PreferencePage", "");
+    ASSERT_TRUE(panel);
+    for (const WindowInfo& control : AllControls(panel->hwnd))
+        EXPECT_TRUE(!control.visible || control.rect.right <= panel->rect.right) << control.title;
+    SaveNamedScreenshot("preferences-after-a-dpi-change");
+    EXPECT_TRUE(CancelPreferences(window, tarvex.processId()));
+}
+
 TEST_F(Preferences, TheKeyboardAloneSetsANumberAndEscapeAsksBeforeItDiscards) {
     HWND window = Open();
     ASSERT_TRUE(window);
