@@ -68,11 +68,19 @@ protected:
         if (!dialog)
             return ::testing::AssertionFailure() << "no colour dialog";
         for (int field : {706, 707, 708}) { // red, green, blue
-            ClickWindow(::GetDlgItem(dialog->hwnd, field));
+            // Each field has the keys once it has the focus, and holds its number before
+            // the next is clicked: on a busy machine keys sent early land in the last one.
+            HWND edit = ::GetDlgItem(dialog->hwnd, field);
+            const std::string value = field == 706 ? "255" : "0";
+            ClickWindow(edit);
+            if (!WaitUntil([&] { return FocusedControl(dialog->hwnd) == edit; }, 10s))
+                return ::testing::AssertionFailure() << "colour field " << field << " did not take the focus";
             PressKey(VK_END);
             TapKeys(VK_SHIFT, VK_HOME, 60ms);
-            for (char digit : std::string(field == 706 ? "255" : "0"))
+            for (char digit : value)
                 PressKey(static_cast<WORD>(digit));
+            if (!WaitUntil([&] { return ControlText(edit) == value; }, 10s))
+                return ::testing::AssertionFailure() << "colour field " << field << " holds " << ControlText(edit);
         }
         if (!PressButton(dialog->hwnd, "OK"))
             return ::testing::AssertionFailure() << "the colour dialog did not close";
