@@ -307,6 +307,8 @@ constexpr std::array kCatalogue = {
     SETTING(SystrayAlwaysOnTop, Boolean, kGeneral, Check(TasklistSystray, "Systray", "Al&ways on top")),
     SETTING(TaskbarAlwaysOnTop, Boolean, kGeneral, Check(TasklistSystray, "Task list", "Always o&n top")),
     SETTING(MenuTypeAhead, Boolean, kGeneral, Check(Menu, "Keyboard", "&Join letters typed quickly into one search")),
+    SETTING(MenuAimAtSubMenus, Boolean, kGeneral,
+            Check(Menu, "Opening sub-menus", "Keep a sub-menu open while the mouse heads for it")),
     SettingDef{"NoOfUserTasks", SettingType::Int32, kGeneral, &SettingsRec::UserTasks, kNoControl},
     SETTING(BrowserIconType, Int16, kGeneral, kNoControl),
     SettingDef{"NoOfHotSpots", SettingType::Int16, kGeneral, &SettingsRec::HotSpots, kNoControl},

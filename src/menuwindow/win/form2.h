@@ -138,6 +138,7 @@ private:
     void Animate(const MenuWindow::AnimationPlan& plan);
     std::optional<MenuWindow::Point> CursorInWindow() const;
     Form2* Parent() const;
+    MenuWindow::Edge NearEdgeInWindow(const MenuWindow::CascadeRec& subMenu) const;
     // Where the window stands on the screen now; a hosted window moves with its host.
     MenuWindow::Rect ScreenBounds() const;
 
