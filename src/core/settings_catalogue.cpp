@@ -309,6 +309,8 @@ constexpr std::array kCatalogue = {
     SETTING(MenuTypeAhead, Boolean, kGeneral, Check(Menu, "Keyboard", "&Join letters typed quickly into one search")),
     SETTING(MenuAimAtSubMenus, Boolean, kGeneral,
             Check(Menu, "Opening sub-menus", "Keep a sub-menu open while the mouse heads for it")),
+    SETTING(MenuKeepKeysWhileOpening, Boolean, kGeneral,
+            Check(Menu, "Keyboard", "Keys typed while a hot key's menu opens go to it")),
     SettingDef{"NoOfUserTasks", SettingType::Int32, kGeneral, &SettingsRec::UserTasks, kNoControl},
     SETTING(BrowserIconType, Int16, kGeneral, kNoControl),
     SettingDef{"NoOfHotSpots", SettingType::Int16, kGeneral, &SettingsRec::HotSpots, kNoControl},

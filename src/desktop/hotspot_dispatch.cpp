@@ -52,6 +52,11 @@ void HotKeyWatch::Note(HotKey hotKey, const KeyDown& down) {
         pressed_.push_back(hotKey);
 }
 
+void HotKeyWatch::Press(HotKey hotKey) {
+    if (held_ != hotKey && std::find(pressed_.begin(), pressed_.end(), hotKey) == pressed_.end())
+        pressed_.push_back(hotKey);
+}
+
 HotKeyWatch::State HotKeyWatch::Check(HotKey hotKey, const KeyDown& down) {
     bool pressed = IsDown(hotKey, down) || std::find(pressed_.begin(), pressed_.end(), hotKey) != pressed_.end();
     if (!pressed)

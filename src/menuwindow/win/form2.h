@@ -91,6 +91,11 @@ public:
     // back here with the selection where it was.
     void NotifyDiscardMouseMove();
 
+    // A key going down or up in this window, with the shift keys held as it was typed and
+    // its message time: what a key message does, also for keys typed before the window
+    // could take them. The object may be gone afterwards (Escape closes it).
+    void TypeKey(WPARAM key, bool up, MenuWindow::Modifiers modifiers, std::uint32_t time);
+
     HWND hwnd() const { return window_.get(); }
     int id() const { return id_; }
     const MenuWindow::MenuScene& scene() const { return scene_; }

@@ -55,7 +55,7 @@ GenUnzipAlwaysOverwrite:b:False GenATXShutdown:b:False GenForceShutdown:b:False 
 TaskbarXofset:s:0 TaskbarYofset:s:0 TaskbarTooltips:b:True TaskbarRunOnStartup:b:False SystrayPos:s:3
 SystrayXofset:s:0 SystrayYofset:s:0 SystrayStyle:s:0 SystrayAutoHide:b:False SystrayHideDelay:s:5
 SystrayAlwaysOnTop:b:False TaskbarAlwaysOnTop:b:False MenuTypeAhead:b:True
-MenuAimAtSubMenus:b:True NoOfUserTasks:l:0 BrowserIconType:s:0 NoOfHotSpots:s:0)";
+MenuAimAtSubMenus:b:True MenuKeepKeysWhileOpening:b:True NoOfUserTasks:l:0 BrowserIconType:s:0 NoOfHotSpots:s:0)";
 
 struct KeyFact {
     std::string name;
