@@ -16,14 +16,17 @@ constexpr int kAlts[] = {0x12, 0xA4, 0xA5};
 constexpr int kWindowsKeys[] = {0x5B, 0x5C};
 
 template <std::size_t N>
-bool AnyOf(const int (&keys)[N], const std::vector<int>& down) {
-    return std::any_of(std::begin(keys), std::end(keys),
-                       [&](int key) { return std::find(down.begin(), down.end(), key) != down.end(); });
+bool Among(const int (&keys)[N], int key) {
+    return std::find(std::begin(keys), std::end(keys), key) != std::end(keys);
+}
+
+template <std::size_t N>
+bool AnyHeld(const int (&keys)[N], const std::vector<int>& down) {
+    return std::any_of(down.begin(), down.end(), [&](int key) { return Among(keys, key); });
 }
 
 bool IsShiftKey(int key) {
-    const std::vector<int> one{key};
-    return AnyOf(kShifts, one) || AnyOf(kCtrls, one) || AnyOf(kAlts, one) || AnyOf(kWindowsKeys, one);
+    return Among(kShifts, key) || Among(kCtrls, key) || Among(kAlts, key) || Among(kWindowsKeys, key);
 }
 
 // The hotspot whose hot key the key, going down, completes.
@@ -46,7 +49,7 @@ EarlyKeys::Verdict EarlyKeys::See(TypedKey key, const std::vector<HotspotRec>& h
             shiftKeysDown_.push_back(key.key);
         return Verdict::Pass;
     }
-    key.modifiers = {AnyOf(kShifts, shiftKeysDown_), AnyOf(kCtrls, shiftKeysDown_), AnyOf(kAlts, shiftKeysDown_)};
+    key.modifiers = {AnyHeld(kShifts, shiftKeysDown_), AnyHeld(kCtrls, shiftKeysDown_), AnyHeld(kAlts, shiftKeysDown_)};
     if (key.up) {
         auto down = std::find(keptDown_.begin(), keptDown_.end(), key.key);
         if (!keeping_ || down == keptDown_.end())

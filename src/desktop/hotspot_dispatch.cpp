@@ -44,14 +44,13 @@ void HotKeyWatch::Sample(const SettingsRec& settings, const KeyDown& down) {
     }
 }
 
-// One that fired and is still down is no new press: noted, it would fire again on the
-// next look although it was let go in between.
 void HotKeyWatch::Note(HotKey hotKey, const KeyDown& down) {
-    bool noted = std::find(pressed_.begin(), pressed_.end(), hotKey) != pressed_.end();
-    if (held_ != hotKey && !noted && IsDown(hotKey, down))
-        pressed_.push_back(hotKey);
+    if (IsDown(hotKey, down))
+        Press(hotKey);
 }
 
+// One that fired and is still down is no new press: noted, it would fire again on the
+// next look although it was let go in between.
 void HotKeyWatch::Press(HotKey hotKey) {
     if (held_ != hotKey && std::find(pressed_.begin(), pressed_.end(), hotKey) == pressed_.end())
         pressed_.push_back(hotKey);

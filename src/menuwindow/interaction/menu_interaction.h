@@ -83,10 +83,10 @@ struct InteractionState {
     int flashCount = 0;
     std::string typed;           // the letters of a type-ahead search, as typed (UTF-8)
     std::uint32_t typedAt = 0;   // the message time of the last of them, in milliseconds
-    Point lastMove;              // where the last move on the surface was
-    std::optional<Point> aimFrom;      // where the cursor set out for the open sub-menu
-    std::optional<Edge> subMenuEdge;   // the open sub-menu's near side, in this window's coordinates
-    bool aimResting = false;           // the rest timer runs for a move deferred by an aim
+    Point lastMove;                  // where the last move on the surface was
+    std::optional<Point> aimFrom;    // where the cursor set out for the open sub-menu
+    std::optional<Edge> subMenuEdge; // the open sub-menu's near side, in this window's coordinates
+    bool aimResting = false;         // the rest timer runs for a move deferred by an aim
 };
 
 class MenuInteraction {

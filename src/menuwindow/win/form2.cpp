@@ -19,10 +19,10 @@ MenuWindow::Point PointOf(LPARAM lParam) {
     return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
 }
 
-constexpr MenuWindow::MenuTimer kTimers[] = {MenuWindow::MenuTimer::Scroll, MenuWindow::MenuTimer::DropDown,
-                                             MenuWindow::MenuTimer::DoubleClick, MenuWindow::MenuTimer::FlashSelBar,
-                                             MenuWindow::MenuTimer::SetForeground, MenuWindow::MenuTimer::UpdateTaskList,
-                                             MenuWindow::MenuTimer::AimRest};
+constexpr MenuWindow::MenuTimer kTimers[] = {
+    MenuWindow::MenuTimer::Scroll,      MenuWindow::MenuTimer::DropDown,      MenuWindow::MenuTimer::DoubleClick,
+    MenuWindow::MenuTimer::FlashSelBar, MenuWindow::MenuTimer::SetForeground, MenuWindow::MenuTimer::UpdateTaskList,
+    MenuWindow::MenuTimer::AimRest};
 
 } // namespace
 

@@ -284,8 +284,8 @@ TEST_F(Hotspots, KeysTypedInOneBurstWithAHotKeyGoToItsMenuInOrder) {
     ASSERT_TRUE(Shows({"Keys"}));
     PressKey(VK_ESCAPE);
     ASSERT_TRUE(Shows({}));
-    const std::initializer_list<WORD> bursts[] = {{VK_DOWN, VK_RETURN}, {VK_DOWN, VK_DOWN, VK_RETURN},
-                                                  {VK_UP, VK_RETURN}};
+    const std::initializer_list<WORD> bursts[] = {
+        {VK_DOWN, VK_RETURN}, {VK_DOWN, VK_DOWN, VK_RETURN}, {VK_UP, VK_RETURN}};
     for (int round = 1; round <= 3; ++round) {
         HotKeyThenKeys(VK_CONTROL, VK_F5, bursts[round - 1]);
         const std::string chosen = std::to_string(round) + ".txt";
