@@ -236,6 +236,12 @@ struct SettingsRec {
     // Letters typed within kTypeAheadMilliseconds of each other extend a menu's search;
     // off, every letter searches alone.
     bool MenuTypeAhead = true;
+    // Crossing other items on the way to an open sub-menu leaves the sub-menu open and the
+    // selection where it is, until the cursor rests; off, every item crossed counts.
+    bool MenuAimAtSubMenus = true;
+    // Keys typed right after a hotspot's hot key wait for its menu and go to it in order;
+    // off, they go wherever the keyboard is until the menu takes it.
+    bool MenuKeepKeysWhileOpening = true;
     std::int16_t BrowserIconType = 0;
 
     // SoundFx0..SoundFx6: the sound of each menu event; empty plays nothing.

@@ -45,11 +45,15 @@ void HotKeyWatch::Sample(const SettingsRec& settings, const KeyDown& down) {
     }
 }
 
+void HotKeyWatch::Note(HotKey hotKey, const KeyDown& down) {
+    if (IsDown(hotKey, down))
+        Press(hotKey);
+}
+
 // One that fired and is still down is no new press: noted, it would fire again on the
 // next look although it was let go in between.
-void HotKeyWatch::Note(HotKey hotKey, const KeyDown& down) {
-    bool noted = std::find(pressed_.begin(), pressed_.end(), hotKey) != pressed_.end();
-    if (held_ != hotKey && !noted && IsDown(hotKey, down))
+void HotKeyWatch::Press(HotKey hotKey) {
+    if (held_ != hotKey && std::find(pressed_.begin(), pressed_.end(), hotKey) == pressed_.end())
         pressed_.push_back(hotKey);
 }
 

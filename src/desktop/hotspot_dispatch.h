@@ -46,6 +46,9 @@ public:
     void Sample(const SettingsRec& settings, const KeyDown& down);
     // Timer1: whether a hot key is down or was since Timer1's last tick.
     State Check(HotKey hotKey, const KeyDown& down);
+    // A hot key seen going down as it was typed: noted as a sample would note it, so that
+    // a tap too brief for the samples still fires.
+    void Press(HotKey hotKey);
     // Timer1, at the end of its tick: what was sampled is used up.
     void EndTick() { pressed_.clear(); }
 

@@ -52,6 +52,7 @@ inline void DeleteMemoryDc(HDC h) { ::DeleteDC(h); }
 inline void DestroyIconHandle(HICON h) { ::DestroyIcon(h); }
 inline void DestroyMenuHandle(HMENU h) { ::DestroyMenu(h); }
 inline void UnloadModule(HMODULE h) { ::FreeLibrary(h); }
+inline void RemoveHook(HHOOK h) { ::UnhookWindowsHookEx(h); }
 } // namespace Detail
 
 using UniqueKernelHandle = UniqueHandle<HANDLE, Detail::CloseKernelHandle>;
@@ -63,6 +64,7 @@ using UniqueMemoryDc = UniqueHandle<HDC, Detail::DeleteMemoryDc>;
 using UniqueIcon = UniqueHandle<HICON, Detail::DestroyIconHandle>;
 using UniqueMenu = UniqueHandle<HMENU, Detail::DestroyMenuHandle>;
 using UniqueModule = UniqueHandle<HMODULE, Detail::UnloadModule>;
+using UniqueHook = UniqueHandle<HHOOK, Detail::RemoveHook>;
 
 // GDI objects of one kind each, so a brush cannot be handed where a font is wanted.
 template <typename H>

@@ -104,11 +104,14 @@ void HotspotTimers::Start(HWND window) {
     ::SetTimer(window_, kTimer3, kTimer3Interval, nullptr);
 }
 
+// The keyboard hook is set as Timer1 first starts, at the end of start-up, rather than on
+// Timer3's next tick: a hot key that works from then on keeps the keys typed after it.
 void HotspotTimers::EnableTimer1() {
     if (stopped_ || !::IsWindow(window_))
         return;
     ::SetTimer(window_, kTimer1, kTimer1Interval, nullptr);
     timer1Enabled_ = true;
+    earlyKeys_.Tick(form1_.program().settings, form1_.program().openMenus);
 }
 
 void HotspotTimers::DisableTimer1() {
@@ -125,6 +128,7 @@ void HotspotTimers::Stop() {
 void HotspotTimers::Timer3_Timer() {
     const SettingsRec& settings = form1_.program().settings;
     Hotspots::TrackerDelays delays{settings.GenDblClickDelay, settings.GenBumpDelay};
+    earlyKeys_.Tick(settings, form1_.program().openMenus);
     KeysNow keys;
     hotKeys_.Sample(settings, keys.AsKeyDown());
     if (Hotspots::TrackMouse(tracker_, event_, SampleMouse(keys), delays) && timer1Enabled_)
@@ -135,6 +139,7 @@ void HotspotTimers::Timer1_Timer() {
     Program& program = form1_.program();
     if (program.QuestionBusy || program.RebuildBusy) {
         hotKeys_.EndTick(); // keys pressed while busy fire nothing afterwards
+        earlyKeys_.LetGo(program.openMenus, nullptr);
         return;
     }
     Timer1Pause pause(*this);
@@ -155,12 +160,16 @@ bool HotspotTimers::Dispatch() {
         Hotspots::HotKeyWatch::State state = hotKeys_.Check(*general, down);
         if (state == Hotspots::HotKeyWatch::State::Pressed)
             form1_.Show_Setup_Screen();
-        if (state != Hotspots::HotKeyWatch::State::Up)
+        if (state != Hotspots::HotKeyWatch::State::Up) {
+            earlyKeys_.LetGo(program.openMenus, nullptr);
             return true;
+        }
     }
     if (!event_.PendingClick) {
+        Form2* opened = nullptr;
         if (std::optional<int> hotspot = Hotspots::HotspotByHotKey(program.settings.HotSpots, hotKeys_, down))
-            Fire(*hotspot, {0, 0}, CursorPoint());
+            opened = Fire(*hotspot, {0, 0}, CursorPoint());
+        earlyKeys_.LetGo(program.openMenus, opened);
         return true;
     }
     event_.PendingClick = 0;
@@ -174,10 +183,10 @@ bool HotspotTimers::Dispatch() {
     return false;
 }
 
-void HotspotTimers::Fire(int hotspot, MenuWindow::Point origin, MenuWindow::Point cursor) {
+Form2* HotspotTimers::Fire(int hotspot, MenuWindow::Point origin, MenuWindow::Point cursor) {
     Program& program = form1_.program();
     if (hotspot < 0 || static_cast<std::size_t>(hotspot) >= program.settings.HotSpots.size())
-        return;
+        return nullptr;
     // A copy: a command it runs may change the settings.
     const HotspotRec record = program.settings.HotSpots[static_cast<std::size_t>(hotspot)];
     Hotspots::Toggle toggle = Hotspots::DecideToggle(program.openMenus.records(), hotspot, record.GroupName);
@@ -188,7 +197,7 @@ void HotspotTimers::Fire(int hotspot, MenuWindow::Point origin, MenuWindow::Poin
     if (toggle.close != 0)
         program.openMenus.CloseHotspotMenu(toggle.close);
     if (!toggle.fire)
-        return;
+        return nullptr;
     switch (Hotspots::ActionOf(record.Type)) {
     case Hotspots::Action::RunProgram:
         Launcher::RunProgram(program, record.Menuname, record.StartPath, record.Menupath1, record.Menupath2, 0);
@@ -197,7 +206,7 @@ void HotspotTimers::Fire(int hotspot, MenuWindow::Point origin, MenuWindow::Poin
         Launcher::RunCommand(form1_, record.Menupath2);
         break;
     case Hotspots::Action::OpenMenu:
-        HotspotOpening::OpenHotspotMenu(program, hotspot, origin, cursor);
-        break;
+        return HotspotOpening::OpenHotspotMenu(program, hotspot, origin, cursor);
     }
+    return nullptr;
 }

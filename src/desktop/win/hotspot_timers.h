@@ -6,10 +6,12 @@
 
 #include "desktop/click_tracker.h"
 #include "desktop/hotspot_dispatch.h"
+#include "desktop/win/early_keys_hook.h"
 
 #include <windows.h>
 
 class Form1;
+class Form2;
 
 class HotspotTimers {
 public:
@@ -37,8 +39,8 @@ private:
     // a click instead of looking at the hot keys: what Timer3 sampled of them is then
     // kept for the next tick, so a tap that comes with a click is not lost.
     bool Dispatch();
-    // The toggle and group rule, then the hotspot's action.
-    void Fire(int hotspot, MenuWindow::Point origin, MenuWindow::Point cursor);
+    // The toggle and group rule, then the hotspot's action; the menu it opened, if any.
+    Form2* Fire(int hotspot, MenuWindow::Point origin, MenuWindow::Point cursor);
 
     Form1& form1_;
     HWND window_ = nullptr;
@@ -47,4 +49,5 @@ private:
     Hotspots::ClickTracker tracker_;
     Hotspots::PendingEvent event_;
     Hotspots::HotKeyWatch hotKeys_;
+    EarlyKeysHook earlyKeys_{hotKeys_};
 };

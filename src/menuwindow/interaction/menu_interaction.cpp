@@ -222,6 +222,20 @@ Effects MenuInteraction::ReleaseItem(const MenuScene& scene, int item, MouseButt
 }
 
 Effects MenuInteraction::Move(const MenuScene& scene, Point point) {
+    return MoveOver(scene, point, true);
+}
+
+// With MenuAimAtSubMenus on, a sub-menu open and the cursor on its way there, inside the
+// triangle from where it set out to the sub-menu's near side, the item it crosses is not
+// the user's wish: nothing changes until the cursor rests or leaves the triangle.
+bool MenuInteraction::AimsAtSubMenu(const MenuScene& scene, Point point, int item) const {
+    if (!scene.look.MenuAimAtSubMenus || state_.pressed || state_.openSubMenu == 0 || item == state_.openSubMenu ||
+        !state_.aimFrom || !state_.subMenuEdge)
+        return false;
+    return InTriangle(point, *state_.aimFrom, state_.subMenuEdge->from, state_.subMenuEdge->to);
+}
+
+Effects MenuInteraction::MoveOver(const MenuScene& scene, Point point, bool aiming) {
     Effects effects;
     if (state_.discardMove) {
         state_.discardMove = false;
@@ -248,6 +262,18 @@ Effects MenuInteraction::Move(const MenuScene& scene, Point point) {
 
     Hit hit = HitInWindow(scene, point);
     int item = hit.kind == Hit::Kind::Item ? hit.item : 0;
+    if (aiming && AimsAtSubMenu(scene, point, item)) {
+        state_.aimResting = true;
+        Start(effects, MenuTimer::AimRest, AimRest(look.MenuDropDownDelay));
+        return effects;
+    }
+    if (state_.aimResting) {
+        state_.aimResting = false;
+        Stop(effects, MenuTimer::AimRest);
+    }
+    state_.lastMove = point;
+    if (item != 0 && item == state_.openSubMenu)
+        state_.aimFrom = point;
     if (state_.pressed && item != 0 && item != state_.selected) {
         state_.selected = item;
         state_.bar = {item, true};
@@ -293,6 +319,18 @@ Effects MenuInteraction::DropDownTick(const MenuScene& scene, std::optional<Poin
     } else {
         state_.timed = 0;
         state_.delayElapsed = false;
+    }
+    return effects;
+}
+
+// Where the cursor rests, the menu takes the move as meant; an aim can set out again from there.
+Effects MenuInteraction::AimRestTick(const MenuScene& scene, std::optional<Point> cursor) {
+    Effects effects;
+    Stop(effects, MenuTimer::AimRest);
+    state_.aimResting = false;
+    if (cursor && scene.layout.surface.Contains(*cursor)) {
+        state_.aimFrom = *cursor;
+        Merge(effects, MoveOver(scene, *cursor, false));
     }
     return effects;
 }
@@ -474,13 +512,21 @@ Effects MenuInteraction::ChooseItem(const MenuScene& scene, int item) {
     return effects;
 }
 
-void MenuInteraction::SubMenuOpened(int item) {
+// An aim sets out from the item's button only: a sub-menu opened by the keyboard with the
+// mouse elsewhere waits for the mouse to come to its item.
+void MenuInteraction::SubMenuOpened(int item, std::optional<Edge> nearEdge) {
     state_.openSubMenu = item;
+    state_.subMenuEdge = nearEdge;
+    state_.aimFrom.reset();
+    if (state_.hovered == item)
+        state_.aimFrom = state_.lastMove;
 }
 
 int MenuInteraction::SubMenuClosed() {
     int item = state_.openSubMenu;
     state_.openSubMenu = 0;
+    state_.subMenuEdge.reset();
+    state_.aimFrom.reset();
     return item;
 }
 
@@ -488,8 +534,9 @@ Effects MenuInteraction::StopAll() {
     Effects effects;
     effects.capture = Capture::Release;
     for (MenuTimer timer : {MenuTimer::Scroll, MenuTimer::DropDown, MenuTimer::DoubleClick, MenuTimer::FlashSelBar,
-                            MenuTimer::SetForeground})
+                            MenuTimer::SetForeground, MenuTimer::AimRest})
         Stop(effects, timer);
+    state_.aimResting = false;
     state_.scrollingTowardsEnd = state_.scrollingTowardsStart = false;
     state_.scrollTicks = 0;
     state_.pressed = false;

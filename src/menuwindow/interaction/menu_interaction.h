@@ -5,6 +5,7 @@
 #pragma once
 
 #include "menuwindow/interaction/choosing.h"
+#include "menuwindow/interaction/sub_menu_aim.h"
 #include "menuwindow/layout/menu_scene.h"
 #include "menuwindow/paint/repaint.h"
 
@@ -14,7 +15,7 @@
 
 namespace MenuWindow {
 
-enum class MenuTimer { Scroll, DropDown, DoubleClick, FlashSelBar, SetForeground, UpdateTaskList };
+enum class MenuTimer { Scroll, DropDown, DoubleClick, FlashSelBar, SetForeground, UpdateTaskList, AimRest };
 
 inline constexpr int kDoubleClickInterval = 500; // a folder's second click opens the folder itself
 inline constexpr int kFlashInterval = 40;
@@ -82,6 +83,10 @@ struct InteractionState {
     int flashCount = 0;
     std::string typed;           // the letters of a type-ahead search, as typed (UTF-8)
     std::uint32_t typedAt = 0;   // the message time of the last of them, in milliseconds
+    Point lastMove;                  // where the last move on the surface was
+    std::optional<Point> aimFrom;    // where the cursor set out for the open sub-menu
+    std::optional<Edge> subMenuEdge; // the open sub-menu's near side, in this window's coordinates
+    bool aimResting = false;         // the rest timer runs for a move deferred by an aim
 };
 
 class MenuInteraction {
@@ -100,6 +105,8 @@ public:
     // The drop-down delay ran out; cursor is where the cursor stands in this window's
     // coordinates, or nothing when it is over another window.
     Effects DropDownTick(const MenuScene& scene, std::optional<Point> cursor);
+    // The cursor rested while aiming at the open sub-menu: the move it rests at counts.
+    Effects AimRestTick(const MenuScene& scene, std::optional<Point> cursor);
     Effects DoubleClickTick();
     Effects FlashTick();
     // One step of automatic scrolling; cursor as for DropDownTick.
@@ -116,9 +123,10 @@ public:
     // a hot key, or a screen reader's default action. Nothing for an item out of range.
     Effects ChooseItem(const MenuScene& scene, int item);
 
-    // This window's sub-menu for an item opened; the sub-menu closed (unloaded, closed by
-    // the keyboard or torn off), which gives the item it was open for, to be redrawn.
-    void SubMenuOpened(int item);
+    // This window's sub-menu for an item opened, its near side (nearEdge, in this window's
+    // coordinates) facing this window; the sub-menu closed (unloaded, closed by the
+    // keyboard or torn off), which gives the item it was open for, to be redrawn.
+    void SubMenuOpened(int item, std::optional<Edge> nearEdge = std::nullopt);
     int SubMenuClosed();
     // A sub-menu closed by the keyboard hands the keyboard back: the next move is ignored,
     // so that the selection stays where the keyboard left it.
@@ -134,6 +142,8 @@ public:
 private:
     Effects PressItem(const MenuScene& scene, int item, MouseButton button, Modifiers modifiers);
     Effects ReleaseItem(const MenuScene& scene, int item, MouseButton button, Modifiers modifiers);
+    Effects MoveOver(const MenuScene& scene, Point point, bool aiming);
+    bool AimsAtSubMenu(const MenuScene& scene, Point point, int item) const;
     Effects StartScrolling(const MenuScene& scene, bool towardsEnd);
     void StopScrolling(Effects& effects);
 

@@ -19,9 +19,10 @@ MenuWindow::Point PointOf(LPARAM lParam) {
     return {GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)};
 }
 
-constexpr MenuWindow::MenuTimer kTimers[] = {MenuWindow::MenuTimer::Scroll, MenuWindow::MenuTimer::DropDown,
-                                             MenuWindow::MenuTimer::DoubleClick, MenuWindow::MenuTimer::FlashSelBar,
-                                             MenuWindow::MenuTimer::SetForeground, MenuWindow::MenuTimer::UpdateTaskList};
+constexpr MenuWindow::MenuTimer kTimers[] = {
+    MenuWindow::MenuTimer::Scroll,      MenuWindow::MenuTimer::DropDown,      MenuWindow::MenuTimer::DoubleClick,
+    MenuWindow::MenuTimer::FlashSelBar, MenuWindow::MenuTimer::SetForeground, MenuWindow::MenuTimer::UpdateTaskList,
+    MenuWindow::MenuTimer::AimRest};
 
 } // namespace
 
@@ -152,6 +153,8 @@ void Form2::Form_Timer(UINT_PTR timer) {
         Apply(interaction_.ScrollTick(scene_, CursorInWindow()));
     else if (timer == TimerId(MenuTimer::DropDown))
         Apply(interaction_.DropDownTick(scene_, CursorInWindow()));
+    else if (timer == TimerId(MenuTimer::AimRest))
+        Apply(interaction_.AimRestTick(scene_, CursorInWindow()));
     else if (timer == TimerId(MenuTimer::DoubleClick))
         Apply(interaction_.DoubleClickTick());
     else if (timer == TimerId(MenuTimer::FlashSelBar))

@@ -93,6 +93,11 @@ public:
     // back here with the selection where it was.
     void NotifyDiscardMouseMove();
 
+    // A key going down or up in this window, with the shift keys held as it was typed and
+    // its message time: what a key message does, also for keys typed before the window
+    // could take them. The object may be gone afterwards (Escape closes it).
+    void TypeKey(WPARAM key, bool up, MenuWindow::Modifiers modifiers, std::uint32_t time);
+
     HWND hwnd() const { return window_.get(); }
     int id() const { return id_; }
     const MenuWindow::MenuScene& scene() const { return scene_; }
@@ -149,6 +154,7 @@ private:
     void Animate(const MenuWindow::AnimationPlan& plan);
     std::optional<MenuWindow::Point> CursorInWindow() const;
     Form2* Parent() const;
+    MenuWindow::Edge NearEdgeInWindow(const MenuWindow::CascadeRec& subMenu) const;
     // Where the window stands on the screen now; a hosted window moves with its host.
     MenuWindow::Rect ScreenBounds() const;
 

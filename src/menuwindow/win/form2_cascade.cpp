@@ -22,9 +22,17 @@ void Form2::OpenNewMenu(int item) {
         openMenus_.Close(openMenus_.records().IndexOf(childId));
         return;
     }
-    interaction_.SubMenuOpened(item);
+    interaction_.SubMenuOpened(item, NearEdgeInWindow(child->Record()));
     SetInactive(true);
     child->Show();
+}
+
+// The side of a sub-menu that faces this window, in this window's coordinates.
+Edge Form2::NearEdgeInWindow(const CascadeRec& subMenu) const {
+    const Rect here = ScreenBounds();
+    const Rect& there = subMenu.bounds;
+    Rect inWindow{there.left - here.left, there.top - here.top, there.right - here.left, there.bottom - here.top};
+    return NearEdge(inWindow, scene_.horizontal, subMenu.towardsStart);
 }
 
 // When the keyboard was down there, it comes back here rather than to no menu at all.

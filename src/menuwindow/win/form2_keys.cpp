@@ -38,10 +38,16 @@ Modifiers Form2::HeldModifiers(WPARAM mouseKeys) {
 }
 
 void Form2::Form_KeyDown(WPARAM key) {
-    Apply(interaction_.KeyDown(scene_, KeyOf(key), CharacterOf(key), HeldModifiers(), Record().level,
-                               static_cast<std::uint32_t>(::GetMessageTime())));
+    TypeKey(key, false, HeldModifiers(), static_cast<std::uint32_t>(::GetMessageTime()));
 }
 
 void Form2::Form_KeyUp(WPARAM key) {
-    Apply(interaction_.KeyUp(scene_, CharacterOf(key), HeldModifiers()));
+    TypeKey(key, true, HeldModifiers(), static_cast<std::uint32_t>(::GetMessageTime()));
+}
+
+void Form2::TypeKey(WPARAM key, bool up, Modifiers modifiers, std::uint32_t time) {
+    if (up)
+        Apply(interaction_.KeyUp(scene_, CharacterOf(key), modifiers));
+    else
+        Apply(interaction_.KeyDown(scene_, KeyOf(key), CharacterOf(key), modifiers, Record().level, time));
 }

@@ -23,6 +23,14 @@ Form2* OpenMenus::WindowOf(int id) const {
     return found == windows_.end() ? nullptr : found->second.get();
 }
 
+Form2* OpenMenus::WindowWithKeyboard() const {
+    HWND focus = ::GetFocus();
+    for (const auto& [id, window] : windows_)
+        if (window && focus && window->hwnd() == focus)
+            return window.get();
+    return nullptr;
+}
+
 void OpenMenus::Close(int index) {
     if (index < 1 || index > records_.Count())
         return;

@@ -30,6 +30,9 @@ public:
     // The window of the record with an identifier; null when there is none.
     Form2* WindowOf(int id) const;
 
+    // The menu window that has the keyboard (the focus of this thread); null when none has.
+    Form2* WindowWithKeyboard() const;
+
     // Unloads the window of the record at an index and removes the record; the later
     // records move down one place.
     void Close(int index);

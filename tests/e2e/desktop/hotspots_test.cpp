@@ -268,3 +268,30 @@ TEST_F(Hotspots, NoHotspotFiresWhileAQuestionOfTheProgramIsUp) {
     EXPECT_TRUE(PressButton(question->hwnd, "No"));
     EXPECT_TRUE(Shows({})) << "the chosen item closes its menu";
 }
+
+TEST_F(Hotspots, KeysTypedInOneBurstWithAHotKeyGoToItsMenuInOrder) {
+    TempFolder work;
+    TestHotspot keys = Spot("Keys", 99);
+    keys.hotKey = VK_F5;
+    std::vector<TestItem> items;
+    for (const char* name : {"1", "2", "3"})
+        items.push_back(WritesAFile(name, work.File(std::string(name) + ".txt")));
+    ASSERT_NO_FATAL_FAILURE(Start({Spot("Programs", 0), keys},
+                                  {{"Programs", NotepadItems({"Editor"})}, {"Keys", items}},
+                                  std::string(kSlowDoubleClick) + "SelBar=True\n"));
+    // Start-up is over once the hot key works.
+    TapKeys(VK_CONTROL, VK_F5, 60ms);
+    ASSERT_TRUE(Shows({"Keys"}));
+    PressKey(VK_ESCAPE);
+    ASSERT_TRUE(Shows({}));
+    const std::initializer_list<WORD> bursts[] = {
+        {VK_DOWN, VK_RETURN}, {VK_DOWN, VK_DOWN, VK_RETURN}, {VK_UP, VK_RETURN}};
+    for (int round = 1; round <= 3; ++round) {
+        HotKeyThenKeys(VK_CONTROL, VK_F5, bursts[round - 1]);
+        const std::string chosen = std::to_string(round) + ".txt";
+        EXPECT_TRUE(WaitUntil([&] { return work.Exists(chosen); }, 20s)) << "the keys chose item " << round;
+        ASSERT_TRUE(Shows({})) << "and the choice closed the menu";
+        for (int later = round + 1; later <= 3; ++later)
+            EXPECT_FALSE(work.Exists(std::to_string(later) + ".txt")) << "round " << round;
+    }
+}

@@ -2,6 +2,8 @@
 
 #include "harness/wait.h"
 
+#include <vector>
+
 namespace E2e {
 
 namespace {
@@ -134,6 +136,26 @@ void TapKeys(WORD modifier, WORD virtualKey, Duration hold) {
     Settle(hold);
     SendKey(virtualKey, true);
     SendKey(modifier, true);
+}
+
+void HotKeyThenKeys(WORD modifier, WORD virtualKey, std::initializer_list<WORD> keys) {
+    std::vector<INPUT> inputs;
+    auto add = [&](WORD key, bool up) {
+        INPUT input{};
+        input.type = INPUT_KEYBOARD;
+        input.ki.wVk = key;
+        input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
+        inputs.push_back(input);
+    };
+    add(modifier, false);
+    add(virtualKey, false);
+    add(virtualKey, true);
+    add(modifier, true);
+    for (WORD key : keys) {
+        add(key, false);
+        add(key, true);
+    }
+    ::SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
 }
 
 void PressKey(WORD virtualKey) {

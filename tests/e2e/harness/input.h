@@ -7,6 +7,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <initializer_list>
 
 namespace E2e {
 
@@ -37,6 +38,9 @@ void PressKey(WORD virtualKey);
 // A modifier and a key pressed together, held for a moment and let go: a hot key tapped
 // more briefly than the program's 100 ms look at the hot keys.
 void TapKeys(WORD modifier, WORD virtualKey, Duration hold);
+// A modifier and a key and then each of keys pressed and let go, all in one SendInput:
+// a hot key followed by keys faster than any hand types them.
+void HotKeyThenKeys(WORD modifier, WORD virtualKey, std::initializer_list<WORD> keys);
 
 // Holds a key down for as long as the object lives: a click with Ctrl held.
 class HeldKey {

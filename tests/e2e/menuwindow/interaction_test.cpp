@@ -390,3 +390,42 @@ TEST_F(MenuInteraction, TypeAheadJoinsQuickLettersAndOffEachLetterSearchesAlone)
         ASSERT_TRUE(tarvex.ExitThroughTray());
     }
 }
+
+// The cursor goes diagonally from the item whose sub-menu is open, across the two items
+// below it, into the sub-menu. The long drop-down delay is also the rest that ends an aim:
+// a step of the sweep never takes that long, however busy the machine.
+TEST_F(MenuInteraction, CrossingItemsOnTheWayIntoASubMenuKeepsItAndTheSelectionUnlessAimingIsOff) {
+    for (const bool aim : {true, false}) {
+        SCOPED_TRACE(aim ? "aiming on" : "aiming off");
+        std::string settings = "MenuAutoDropDown=True\nMenuDropDownDelay=1500\nSelBarFollowMouse=True\n";
+        if (!aim)
+            settings += "MenuAimAtSubMenus=False\n";
+        std::vector<TestItem> items = NotepadItems({"Editor", "Paint"});
+        items.insert(items.begin(), MenuItem("Tools", "Tools"));
+        ASSERT_NO_FATAL_FAILURE(Open({{"Programs", items}, {"Tools", NotepadItems({"Calculator", "Clock", "Cards"})}},
+                                     SelectionBar(settings)));
+        ASSERT_TRUE(ClickItem(main, 1));
+        ASSERT_TRUE(MenusShown(2));
+        ASSERT_TRUE(BarMovesTo(main, 1));
+        HWND tools = MenuTitled("Tools");
+        ASSERT_TRUE(tools);
+        const POINT from = ItemPoint(main, 1);
+        const POINT to{RectOf(tools).left + 12, ItemPoint(main, 3).y + kPlainButtonHeight / 2};
+        constexpr int kSteps = 12;
+        for (int step = 1; step <= kSteps; ++step)
+            ASSERT_TRUE(SweepMouseTo(from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps));
+        if (aim) {
+            EXPECT_TRUE(BarOn(main, 1)) << "the selection stayed on the item of the open sub-menu";
+            Settle(2s); // longer than the rest and the drop-down delay: nothing comes late
+            EXPECT_TRUE(BarOn(main, 1));
+            EXPECT_EQ(MenuCount(), 2u) << "the sub-menu stayed open";
+        } else {
+            EXPECT_TRUE(WaitUntil([&] { return !BarOn(main, 1); }, 5s)) << "the items crossed took the selection";
+        }
+        Screenshot(aim ? "aim-on" : "aim-off");
+        PressKey(VK_ESCAPE);
+        PressKey(VK_ESCAPE);
+        ASSERT_TRUE(MenusShown(0));
+        ASSERT_TRUE(tarvex.ExitThroughTray());
+    }
+}

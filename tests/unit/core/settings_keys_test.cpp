@@ -54,7 +54,8 @@ GenMiddleClick:s:3 GenDblClick:s:0 GenBumpDelay:s:5 GenQuietFullScreen:b:True Ge
 GenUnzipAlwaysOverwrite:b:False GenATXShutdown:b:False GenForceShutdown:b:False GenAutoRun:b:False TaskbarPos:s:2
 TaskbarXofset:s:0 TaskbarYofset:s:0 TaskbarTooltips:b:True TaskbarRunOnStartup:b:False SystrayPos:s:3
 SystrayXofset:s:0 SystrayYofset:s:0 SystrayStyle:s:0 SystrayAutoHide:b:False SystrayHideDelay:s:5
-SystrayAlwaysOnTop:b:False TaskbarAlwaysOnTop:b:False MenuTypeAhead:b:True NoOfUserTasks:l:0 BrowserIconType:s:0 NoOfHotSpots:s:0)";
+SystrayAlwaysOnTop:b:False TaskbarAlwaysOnTop:b:False MenuTypeAhead:b:True
+MenuAimAtSubMenus:b:True MenuKeepKeysWhileOpening:b:True NoOfUserTasks:l:0 BrowserIconType:s:0 NoOfHotSpots:s:0)";
 
 struct KeyFact {
     std::string name;

@@ -356,3 +356,82 @@ TEST(MenuInteractionTypeAhead, QuickLettersExtendTheSearchAndSlowOnesSearchAlone
     off.interaction.KeyDown(off.scene, Key::Other, U'o', {}, 1, 1100);
     EXPECT_EQ(off.Selected(), 1) << "off, 'o' searches alone and finds nothing";
 }
+
+namespace {
+
+// A menu whose first item's sub-menu is open beside it, the mouse having come from that
+// item; the bar follows the mouse and sub-menus drop down after 300 ms.
+struct AimingMenu : Menu {
+    explicit AimingMenu(bool aim = true, bool towardsStart = false) : Menu(kItems, Look(aim)) {
+        const int width = scene.layout.window.width;
+        const Rect subMenu = towardsStart ? Rect{-150, 0, 0, 400} : Rect{width, 0, width + 150, 400};
+        interaction.Move(scene, At(1));
+        interaction.SubMenuOpened(1, NearEdge(subMenu, false, towardsStart));
+    }
+    static MenuLook Look(bool aim) {
+        MenuLook look = PlainLook();
+        look.SelBarFollowMouse = true;
+        look.MenuAutoDropDown = true;
+        look.MenuDropDownDelay = 300;
+        look.MenuAimAtSubMenus = aim;
+        return look;
+    }
+    // On an item's button, near this window's right or left side.
+    Point Near(int item, bool right) const {
+        Rect button = ItemInWindow(scene, item);
+        return {right ? button.right - 2 : button.left + 2, (button.top + button.bottom) / 2};
+    }
+    inline static const std::vector<std::string> kItems = {"mTools", "pNotepad", "pnano", "pEditor"};
+};
+
+} // namespace
+
+TEST(MenuAim, CrossingItemsTowardsTheOpenSubMenuChangesNothingInsideTheTriangle) {
+    struct Case {
+        const char* what;
+        bool aim;
+        bool towardsStart;
+        int item;
+        bool right;
+        bool deferred;
+    } cases[] = {
+        {"on the way to a sub-menu on the right", true, false, 2, true, true},
+        {"further on the way", true, false, 3, true, true},
+        {"away from it, outside the triangle", true, false, 2, false, false},
+        {"on the way to a sub-menu on the left", true, true, 2, false, true},
+        {"away from a sub-menu on the left", true, true, 2, true, false},
+        {"the setting off", false, false, 2, true, false},
+    };
+    for (const Case& c : cases) {
+        AimingMenu menu(c.aim, c.towardsStart);
+        Effects moved = menu.interaction.Move(menu.scene, menu.Near(c.item, c.right));
+        if (c.deferred) {
+            EXPECT_FALSE(moved.bar) << c.what;
+            EXPECT_TRUE(Orders(moved, MenuTimer::AimRest, 300)) << c.what;
+            EXPECT_EQ(menu.Selected(), 1) << c.what;
+        } else {
+            EXPECT_EQ(moved.bar, (SelectionState{c.item, false})) << c.what;
+            EXPECT_TRUE(Orders(moved, MenuTimer::DropDown, 300)) << c.what;
+            EXPECT_FALSE(Orders(moved, MenuTimer::AimRest, 300)) << c.what;
+        }
+    }
+}
+
+TEST(MenuAim, WhereTheCursorRestsCountsAndTheAimCanSetOutAgainFromThere) {
+    AimingMenu menu;
+    const Point rest = menu.Near(2, true);
+    menu.interaction.Move(menu.scene, rest);
+    EXPECT_EQ(menu.interaction.DropDownTick(menu.scene, rest).action, MenuAction::None)
+        << "the sub-menu stays while aiming";
+    Effects rested = menu.interaction.AimRestTick(menu.scene, rest);
+    EXPECT_EQ(rested.bar, (SelectionState{2, false}));
+    EXPECT_TRUE(Stops(rested, MenuTimer::AimRest));
+
+    Effects onwards = menu.interaction.Move(menu.scene, {rest.x + 1, rest.y + 1});
+    EXPECT_FALSE(onwards.bar) << "an aim from the rest point";
+    EXPECT_EQ(menu.interaction.DropDownTick(menu.scene, Point{rest.x + 1, rest.y + 1}).action, MenuAction::None);
+    Effects onlyStopped;
+    onlyStopped.timers = {{MenuTimer::AimRest, 0}};
+    EXPECT_EQ(menu.interaction.AimRestTick(menu.scene, std::nullopt), onlyStopped)
+        << "the cursor went on into the sub-menu";
+}
