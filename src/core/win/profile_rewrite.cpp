@@ -129,9 +129,18 @@ Result PutInPlace(const std::wstring& temp, const std::wstring& target, std::str
     const DWORD attributes = ::GetFileAttributesW(target.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES)
         ::SetFileAttributesW(temp.c_str(), attributes);
-    if (::MoveFileExW(temp.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
-        return {true, {}};
-    return Failed("Could not replace", file, ::GetLastError());
+    // A program that has the original open for a moment (a virus scanner, a backup, an
+    // editor reading it) refuses the rename: it is tried again for about a second.
+    constexpr int kAttempts = 20;
+    constexpr DWORD kPause = 50; // ms
+    for (int attempt = 1;; ++attempt) {
+        if (::MoveFileExW(temp.c_str(), target.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH))
+            return {true, {}};
+        const DWORD error = ::GetLastError();
+        if (attempt == kAttempts || (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION))
+            return Failed("Could not replace", file, error);
+        ::Sleep(kPause);
+    }
 }
 
 } // namespace

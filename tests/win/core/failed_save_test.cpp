@@ -9,6 +9,7 @@
 #include "menus/win/menu_store.h"
 #include "support/answered_message_boxes.h"
 #include "support/temp_folder.h"
+#include "win/handles.h"
 #include "win/text_convert.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +17,7 @@
 #include <windows.h>
 
 #include <functional>
+#include <thread>
 #include <string>
 
 namespace {
@@ -80,4 +82,26 @@ TEST(FailedSave, TheOldFileStaysAndTheReasonIsToldOnceARunForEachKindOfFile) {
         EXPECT_NE(boxes.requests[0].text.find(fault.reason), std::string::npos) << boxes.requests[0].text;
         EXPECT_NE(boxes.requests[0].text.find(menus), std::string::npos) << boxes.requests[0].text;
     }
+}
+
+// Another program that holds the file open for a moment (a scanner, an editor reading
+// it) only delays the save: the rename is tried again until the file is let go.
+TEST(FailedSave, AFileHeldOpenForAMomentIsStillReplaced) {
+    TestSupport::TempFolder folder;
+    const std::string settings = folder.File("Helmora.ini");
+    SettingsRec old;
+    ASSERT_TRUE(SettingsStore::Save(settings, false, old).saved);
+    Win::UniqueFileHandle held(::CreateFileW(Win::Widen(settings).c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr,
+                                             OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    ASSERT_TRUE(held);
+    std::thread letGo([&] {
+        ::Sleep(300);
+        held.reset();
+    });
+    SettingsRec changed;
+    changed.GenBumpDelay = 42;
+    const ProfileRewrite::Result saved = SettingsStore::Save(settings, false, changed);
+    letGo.join();
+    EXPECT_TRUE(saved.saved) << saved.problem;
+    EXPECT_EQ(::GetPrivateProfileIntW(L"TARVEX", L"GenBumpDelay", 0, Win::Widen(settings).c_str()), 42u);
 }
