@@ -123,6 +123,18 @@ void TrackEdges(ClickTracker& tracker, PendingEvent& event, const MouseSample& s
 
 } // namespace
 
+MenuWindow::Point CursorLook::Look(MenuWindow::Point messagePosition,
+                                   const std::function<MenuWindow::Point()>& askCursor) {
+    if (messagePosition != message_) {
+        message_ = messagePosition;
+        known_ = messagePosition;
+        still_ = 0;
+    } else if (++still_ % kAskEvery == 0) {
+        known_ = askCursor();
+    }
+    return known_;
+}
+
 bool TrackMouse(ClickTracker& tracker, PendingEvent& event, const MouseSample& sample, TrackerDelays delays) {
     if (tracker.Button == 0)
         tracker.Armed = kTrue;

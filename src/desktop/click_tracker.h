@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 
 namespace Hotspots {
 
@@ -66,6 +67,23 @@ struct TrackerDelays {
 // A bump's countdown once it fired: it stays so until the cursor leaves the edge, so a
 // bump fires once per visit, however long the cursor rests there.
 inline constexpr std::int16_t kBumpFired = 32767;
+
+// Where the cursor is, at the least cost: the position the timer message carries while
+// it moves; while it stands still, the cursor itself every few looks, and what that said
+// in between. Under Wine the message's position goes stale while another program's
+// window has the foreground, and asking for the cursor costs a query of the display on
+// every look.
+class CursorLook {
+public:
+    static constexpr int kAskEvery = 5;
+
+    MenuWindow::Point Look(MenuWindow::Point messagePosition, const std::function<MenuWindow::Point()>& askCursor);
+
+private:
+    std::optional<MenuWindow::Point> message_;
+    MenuWindow::Point known_;
+    int still_ = 0;
+};
 
 // One tick of Timer3. True when an event waits for Timer1 after it.
 bool TrackMouse(ClickTracker& tracker, PendingEvent& event, const MouseSample& sample, TrackerDelays delays);

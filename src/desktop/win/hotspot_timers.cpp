@@ -8,6 +8,8 @@
 #include "menuwindow/win/form2.h"
 #include "menuwindow/win/screen_area.h"
 
+#include <windowsx.h>
+
 #include <array>
 #include <optional>
 
@@ -56,17 +58,14 @@ std::uintptr_t ParentOf(std::uintptr_t window) {
     return reinterpret_cast<std::uintptr_t>(::GetParent(AsWindow(window)));
 }
 
-// The cursor is asked for on every look: the position a timer message carries goes
-// stale under Wine while another program's window has the foreground, and the edges
-// would then never see the cursor leave and come back.
-Hotspots::MouseSample SampleMouse(KeysNow& keys) {
+Hotspots::MouseSample SampleMouse(KeysNow& keys, Hotspots::CursorLook& cursorLook) {
     Hotspots::MouseSample sample;
     sample.left = keys.Down(VK_LBUTTON);
     sample.right = keys.Down(VK_RBUTTON);
     sample.middle = keys.Down(VK_MBUTTON);
-    POINT cursor{};
-    ::GetCursorPos(&cursor);
-    sample.cursor = {cursor.x, cursor.y};
+    const DWORD position = ::GetMessagePos();
+    sample.cursor = cursorLook.Look({GET_X_LPARAM(position), GET_Y_LPARAM(position)}, CursorPoint);
+    const POINT cursor{sample.cursor.x, sample.cursor.y};
     sample.windowAtCursor = [cursor] { return reinterpret_cast<std::uintptr_t>(::WindowFromPoint(cursor)); };
     sample.monitors = MenuWindow::CurrentMonitors();
     return sample;
@@ -131,7 +130,7 @@ void HotspotTimers::Timer3_Timer() {
     earlyKeys_.Tick(settings, form1_.program().openMenus);
     KeysNow keys;
     hotKeys_.Sample(settings, keys.AsKeyDown());
-    if (Hotspots::TrackMouse(tracker_, event_, SampleMouse(keys), delays) && timer1Enabled_)
+    if (Hotspots::TrackMouse(tracker_, event_, SampleMouse(keys, cursorLook_), delays) && timer1Enabled_)
         Timer1_Timer();
 }
 

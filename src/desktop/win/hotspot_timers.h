@@ -47,6 +47,7 @@ private:
     bool timer1Enabled_ = false;
     bool stopped_ = false;
     Hotspots::ClickTracker tracker_;
+    Hotspots::CursorLook cursorLook_;
     Hotspots::PendingEvent event_;
     Hotspots::HotKeyWatch hotKeys_;
     EarlyKeysHook earlyKeys_{hotKeys_};

@@ -92,3 +92,18 @@ TEST(ClickTracker, AnEventNobodyTakesGoesAfterFortyTicks) {
     EXPECT_EQ(left.ClickPoint, (MenuWindow::Point{500, 400}));
     EXPECT_FALSE(Track({{5, 'L'}, {14 + 40}}, {12, 5}, true).left.PendingClick);
 }
+
+TEST(ClickTracker, TheCursorComesFromTheMessageWhileItMovesAndIsAskedForEveryFifthLookWhileItStandsStill) {
+    CursorLook look;
+    int asked = 0;
+    const MenuWindow::Point corner{0, 0};
+    auto ask = [&] { ++asked; return corner; };
+    const MenuWindow::Point stale{500, 400}; // the message's position, stuck while the cursor went on
+    for (int i = 0; i < CursorLook::kAskEvery; ++i) // the first look, then four standing still
+        EXPECT_EQ(look.Look(stale, ask), stale);
+    EXPECT_EQ(asked, 0);
+    EXPECT_EQ(look.Look(stale, ask), corner);
+    EXPECT_EQ(look.Look(stale, ask), corner) << "what the cursor said holds in between";
+    EXPECT_EQ(look.Look({510, 400}, ask), (MenuWindow::Point{510, 400})) << "a moving position is taken as it is";
+    EXPECT_EQ(asked, 1);
+}
