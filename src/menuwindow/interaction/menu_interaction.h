@@ -59,6 +59,7 @@ struct Modifiers {
     bool ctrl = false;
     bool alt = false;
     bool Any() const { return shift || ctrl || alt; }
+    bool operator==(const Modifiers&) const = default;
 };
 
 enum class Key { Up, Down, Home, End, Enter, Right, Left, Escape, Other };
